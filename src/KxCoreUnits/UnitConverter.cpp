@@ -1,0 +1,58 @@
+#include "KxCoreUnits/UnitConverter.h"
+
+#include <algorithm>
+
+namespace kxnorth::platform::core::units {
+
+namespace {
+
+bool SameDims(int const (&a)[kDimensionCount], int const (&b)[kDimensionCount]) {
+    return std::equal(a, a + kDimensionCount, b);
+}
+
+}  // namespace
+
+UnitConverter::UnitConverter() : m_dims{} {}
+
+UnitConverter::UnitConverter(int const (&dims)[kDimensionCount]) {
+    std::copy(dims, dims + kDimensionCount, m_dims);
+}
+
+GenericConverter::GenericConverter() : m_factor(1.0) {}
+
+GenericConverter::GenericConverter(double factor, int const (&dims)[kDimensionCount])
+    : UnitConverter(dims), m_factor(factor) {}
+
+GenericConverter::~GenericConverter() = default;
+
+int GenericConverter::ConvertFromBase(int const (&dims)[kDimensionCount], double& out,
+                                      double valueInBase) const {
+    if (!SameDims(dims, m_dims) || m_factor == 0.0) return 1;
+    out = valueInBase / m_factor;
+    return 0;
+}
+
+int GenericConverter::ConvertToBase(double* out, int const (&dims)[kDimensionCount],
+                                    double value) const {
+    if (out == nullptr || !SameDims(dims, m_dims)) return 1;
+    *out = value * m_factor;
+    return 0;
+}
+
+bool GenericConverter::IsCompatible(int const (&dims)[kDimensionCount]) const {
+    return SameDims(dims, m_dims);
+}
+
+GenericConverter operator*(GenericConverter const& a, GenericConverter const& b) {
+    int dims[kDimensionCount];
+    for (int i = 0; i < kDimensionCount; ++i) dims[i] = a.GetDimTag()[i] + b.GetDimTag()[i];
+    return GenericConverter(a.GetFactor() * b.GetFactor(), dims);
+}
+
+GenericConverter operator/(GenericConverter const& a, GenericConverter const& b) {
+    int dims[kDimensionCount];
+    for (int i = 0; i < kDimensionCount; ++i) dims[i] = a.GetDimTag()[i] - b.GetDimTag()[i];
+    return GenericConverter(a.GetFactor() / b.GetFactor(), dims);
+}
+
+}  // namespace kxnorth::platform::core::units
