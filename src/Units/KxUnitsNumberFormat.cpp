@@ -1,0 +1,219 @@
+#include "KxUnitsNumberFormat.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstring>
+
+namespace kxnorth::platform::core::units {
+
+NumberSettings const& NumberSettings::Defaults() {
+    static NumberSettings const defaults;
+    return defaults;
+}
+
+namespace {
+
+// Large enough for any double in fixed notation at the highest precision (99):
+// 309 integer digits, the point, 99 decimals and a sign.
+constexpr std::size_t kRawCapacity = 512;
+
+struct RawNumber {
+    char text[kRawCapacity];
+    std::size_t length = 0;
+    bool exponentForm = false;
+};
+
+// The text the C locale's printf("%+.*<letter>") writes: always a leading sign, "."
+// as decimal point, no grouping, an exponent of at least two digits. std::to_chars
+// gives the same digits without touching any stream or locale.
+bool MakeRaw(double value, NumberFormat format, int precision, RawNumber& raw) {
+    std::chars_format style = std::chars_format::fixed;
+    bool upper = false;
+    switch (format) {
+        case eNFExponential: style = std::chars_format::scientific; upper = true; break;
+        case eNFExponentialLower: style = std::chars_format::scientific; break;
+        case eNFGeneral: style = std::chars_format::general; upper = true; break;
+        case eNFGeneralLower: style = std::chars_format::general; break;
+        default: break;
+    }
+    char* const first = raw.text + 1;
+    auto const result = std::to_chars(first, raw.text + kRawCapacity, value, style, precision);
+    if (result.ec != std::errc()) return false;
+    if (*first == '-') {
+        std::memmove(raw.text, first, static_cast<std::size_t>(result.ptr - first));
+        raw.length = static_cast<std::size_t>(result.ptr - first);
+    } else {
+        raw.text[0] = '+';
+        raw.length = static_cast<std::size_t>(result.ptr - raw.text);
+    }
+    for (std::size_t i = 1; i < raw.length; ++i) {
+        char& c = raw.text[i];
+        if (upper && c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+        if (c == 'e' || c == 'E') raw.exponentForm = format != eNFFixedPoint && format != eNFNumber;
+    }
+    return true;
+}
+
+// Digit counts from the decimal point leftwards after which a group separator goes.
+// Returns how many there are (at most `capacity`, enough for any integer part).
+int GroupSplits(std::vector<int> const& sizes, std::size_t integerDigits, std::size_t* splits,
+                int capacity) {
+    int count = 0;
+    std::size_t at = 0;
+    for (std::size_t index = 0; count < capacity;) {
+        int const size = sizes[index];
+        if (size <= 0) break;
+        at += static_cast<std::size_t>(size);
+        if (at >= integerDigits) break;
+        splits[count++] = at;
+        if (index + 1 < sizes.size()) ++index;
+    }
+    return count;
+}
+
+// Appends text to the output when there is room, and always counts it.
+struct Writer {
+    wchar_t* out;
+    std::size_t room;  // characters that may be written before the terminator
+    std::size_t length = 0;
+
+    void Put(wchar_t c) {
+        if (length < room) out[length] = c;
+        ++length;
+    }
+    void Put(std::wstring const& s) {
+        for (wchar_t c : s) Put(c);
+    }
+};
+
+}  // namespace
+
+int FormatNumber(NumberSettings const& s, double value, wchar_t* buffer, unsigned long size,
+                 int flags) {
+    if (buffer == nullptr || size == 0) return -1;
+    bool const valueIsZero = value == 0.0;
+    if (valueIsZero) value = 0.0;  // minus zero writes like zero; only the flag adds a sign
+    if (s.format == eNFFraction) return FormatNumberAsFraction(s, value, buffer, size, flags);
+    if (static_cast<unsigned>(s.format) > eNFFraction) return -1;
+
+    int const precision = (flags & kWholeNumberOnly) ? 0 : s.precision;
+    RawNumber raw;
+    if (!MakeRaw(value, s.format, precision, raw)) return -1;
+    // The raw text with its sign and a terminator must fit, as it would in a
+    // temporary buffer of the caller's size.
+    if (raw.length + 1 > size) return -1;
+
+    bool const grouped = s.format == eNFNumber && !s.groupSizes.empty() && s.groupSizes[0] != 0;
+    std::size_t integerDigits = 0;
+    while (1 + integerDigits < raw.length && raw.text[1 + integerDigits] >= '0' &&
+           raw.text[1 + integerDigits] <= '9') {
+        ++integerDigits;
+    }
+    std::size_t splits[kRawCapacity];
+    int splitCount = grouped ? GroupSplits(s.groupSizes, integerDigits, splits, kRawCapacity) : 0;
+
+    bool const zeroSign = valueIsZero && (flags & kNegativeZero);
+    Writer w{buffer, size - 1};
+    if (zeroSign) w.Put(s.negativeSign);
+    std::size_t const beforeLeadingSign = w.length;
+
+    // The leading sign of the number.
+    bool const negative = raw.text[0] == '-';
+    if (negative ? s.includeNegativeSignInNumber : s.includePositiveSignInNumber) {
+        w.Put(negative ? s.negativeSign : s.positiveSign);
+    }
+    std::size_t const leadingSignLength = w.length - beforeLeadingSign;
+
+    bool inExponent = false;
+    std::size_t omittedExponentSigns = 0;
+    std::size_t digitIndex = 0;  // integer digits written so far
+    for (std::size_t i = 1; i < raw.length; ++i) {
+        char const c = raw.text[i];
+        if (c >= '0' && c <= '9') {
+            if (!inExponent && digitIndex < integerDigits) {
+                std::size_t const remaining = integerDigits - digitIndex;
+                // Separators sit where `remaining` digits are left; splits are ascending.
+                while (splitCount > 0 && splits[splitCount - 1] > remaining) --splitCount;
+                if (splitCount > 0 && splits[splitCount - 1] == remaining) {
+                    w.Put(s.groupSeparator);
+                    --splitCount;
+                }
+                ++digitIndex;
+            }
+            w.Put(s.digits[c - '0']);
+        } else if (c == '.') {
+            w.Put(s.decimalSeparator);
+        } else if (c == '+' || c == '-') {  // only an exponent's sign gets here
+            bool const include = c == '+' ? s.includePositiveSignInExponent : s.includeNegativeSignInExponent;
+            if (include) {
+                w.Put(c == '+' ? s.positiveSign : s.negativeSign);
+            } else {
+                ++omittedExponentSigns;
+            }
+        } else {
+            if (raw.exponentForm && (c == 'e' || c == 'E')) inExponent = true;
+            w.Put(static_cast<wchar_t>(c));
+        }
+    }
+
+    // Text is produced from its last character backwards, and a sign left out still
+    // takes a place in that count; the count before the leading sign must stay below
+    // the buffer size.
+    std::size_t const producedBeforeLeadingSign =
+        w.length - leadingSignLength - (zeroSign ? beforeLeadingSign : 0) + omittedExponentSigns;
+    if (producedBeforeLeadingSign >= size || w.length >= size) return -1;
+    buffer[w.length] = L'\0';
+    return static_cast<int>(w.length + 1);
+}
+
+int FormatNumberAsFraction(NumberSettings const& s, double value, wchar_t* buffer,
+                           unsigned long size, int flags) {
+    if (buffer == nullptr || size == 0) return -1;
+    double denominator = 1.0;
+    for (int i = 0; i < s.precision; ++i) denominator *= 2.0;
+
+    double const x = value > 0 ? value + 0.5 / denominator : value - 0.5 / denominator;
+    double whole = 0;
+    double const fraction = std::modf(x, &whole);
+    double numerator = 0;
+    std::modf(fraction * denominator, &numerator);
+
+    // The parts are written as a new formatter writes numbers, at this precision.
+    NumberSettings const& parts = NumberSettings::Defaults();
+    std::size_t k = 0;
+    if (numerator == 0 || whole != 0) {
+        int const n = FormatNumber(parts, whole, buffer, size, flags | kWholeNumberOnly);
+        if (n < 1) return n;
+        buffer[n - 1] = L' ';
+        if (numerator == 0) {
+            if (static_cast<unsigned long>(n) >= size) return -1;
+            buffer[n] = L'\0';
+            return n;
+        }
+        k = static_cast<std::size_t>(n);
+    }
+    if (whole < 0 && numerator < 0) numerator = -numerator;
+    while (std::fmod(numerator, 2.0) == 0) {
+        numerator /= 2;
+        denominator /= 2;
+    }
+    int const n1 = FormatNumber(parts, numerator, buffer + k, size - k, kWholeNumberOnly);
+    if (n1 < 1) return n1;
+    k += static_cast<std::size_t>(n1);
+    buffer[k - 1] = L'/';
+    int const n2 = FormatNumber(parts, denominator, buffer + k, size - k, kWholeNumberOnly);
+    if (n2 < 1) return n2;
+    k += static_cast<std::size_t>(n2);
+    if (k >= size) return -1;
+    buffer[k] = L'\0';
+    return static_cast<int>(k);
+}
+
+int ReverseCopy(wchar_t* destination, std::wstring const& source, unsigned long size) {
+    if (destination == nullptr || size == 0 || source.size() > size) return 1;
+    std::size_t i = 0;
+    for (auto it = source.rbegin(); it != source.rend(); ++it) destination[i++] = *it;
+    return 0;
+}
+
+}  // namespace kxnorth::platform::core::units
