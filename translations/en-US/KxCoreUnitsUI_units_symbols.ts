@@ -2364,7 +2364,7 @@
     <name>UnitSymbol_LuminousEmittance</name>
     <message>
         <source>eSlx_LE</source>
-        <translation>lx</translation>
+        <translation>lm/m²</translation>
     </message>
 </context>
 <context>
@@ -2537,7 +2537,7 @@
     </message>
     <message>
         <source>eSlb</source>
-        <translation>lb (metric)</translation>
+        <translation>lb (meter)</translation>
     </message>
     <message>
         <source>eSlbav</source>
