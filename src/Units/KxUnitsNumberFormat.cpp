@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 
 namespace kxnorth::platform::core::units {
@@ -37,6 +38,14 @@ bool MakeRaw(double value, NumberFormat format, int precision, RawNumber& raw) {
         default: break;
     }
     char* const first = raw.text + 1;
+    if (style == std::chars_format::fixed && precision == 0 && std::fabs(value) < 1e15) {
+        // Whole numbers (every part of a fraction, feet, degrees) skip the double
+        // conversion. nearbyint rounds halves to even, as printf("%.0f") does.
+        long long const whole = std::llabs(static_cast<long long>(std::nearbyint(value)));
+        raw.text[0] = std::signbit(value) ? '-' : '+';
+        raw.length = static_cast<std::size_t>(std::to_chars(first, raw.text + kRawCapacity, whole).ptr - raw.text);
+        return true;
+    }
     auto const result = std::to_chars(first, raw.text + kRawCapacity, value, style, precision);
     if (result.ec != std::errc()) return false;
     if (*first == '-') {
