@@ -233,9 +233,27 @@ def check_locale(cat, translations_dir, locale, strict):
         out.append(f"Check failed ({len(failures)}):")
         out.extend("  " + f for f in failures)
     texts = sum(1 for owners in claims.values() if any(c.unit != FIXED for c in owners))
+    winners = {text: owners[0] for text, owners in claims.items() if owners[0].unit != FIXED}
     out.append(f"{locale}: {texts} texts, {len(across)} collisions across groups, "
                f"{len(within)} within groups, {len(violations)} violations")
-    return out, bool(failures)
+    return out, bool(failures), winners
+
+
+def across_locales(cat, winners_by_locale):
+    """Texts that mean different units in different locales.
+
+    The parse dictionary is one per process and keeps the first claim of a text, so
+    once one locale is loaded, another locale's different meaning of the same text
+    is never found: every such text is a fault.
+    """
+    lines, first = [], {}
+    for locale, winners in winners_by_locale:
+        for text, claim in winners.items():
+            seen = first.setdefault(text, (locale, claim))
+            if seen[1].unit != claim.unit:
+                lines.append(f"{show(text)}: {describe(cat, seen[1])} in {seen[0]}, "
+                             f"{describe(cat, claim)} in {locale}")
+    return lines
 
 
 def main(argv=None):
@@ -249,11 +267,18 @@ def main(argv=None):
     cat = Catalogue(args.data)
     failed = False
     summaries = []
+    winners_by_locale = []
     for locale in args.locales:
-        lines, bad = check_locale(cat, args.translations, locale, args.check)
+        lines, bad, winners = check_locale(cat, args.translations, locale, args.check)
         print("\n".join(lines[:-1]))
         summaries.append(lines[-1])
+        winners_by_locale.append((locale, winners))
         failed |= bad
+    shared = across_locales(cat, winners_by_locale)
+    print(f"== all locales in one parse dictionary\nTexts that change meaning between locales ({len(shared)}):")
+    print("\n".join("  " + line for line in shared))
+    failed |= bool(shared)
+    summaries.append(f"all: {len(shared)} texts change meaning between locales")
     print("\n".join(summaries))
     return 1 if args.check and failed else 0
 

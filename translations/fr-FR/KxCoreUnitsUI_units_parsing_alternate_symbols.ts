@@ -5892,10 +5892,6 @@
         <translation>μl</translation>
     </message>
     <message>
-        <source>eSmuL_Alternate4</source>
-        <translation>ul</translation>
-    </message>
-    <message>
         <source>eSMilliliter_Alternate1</source>
         <translation>millilitres</translation>
     </message>

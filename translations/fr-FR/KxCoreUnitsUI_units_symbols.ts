@@ -2704,7 +2704,7 @@
     </message>
     <message>
         <source>eShp_Metric</source>
-        <translation>ch</translation>
+        <translation>CV</translation>
     </message>
     <message>
         <source>eShp_OneChar_Metric</source>
