@@ -1,0 +1,165 @@
+#define KX_SOURCE_PATH "src/Units/KxUnitsDisplayNames"
+
+#include "KxUnitsDisplayNames.h"
+
+#include <QFile>
+
+#include "KxAssert.h"
+#include "KxCoreUnits/UnitsConfig.h"
+#include "KxCoreUnitsUI/LocaleUtil.h"
+#include "KxCoreUnitsUI/StringUtil.h"
+#include "KxCoreUnitsUI/UnitsManager.h"
+#include "KxUnitsDisplayNames_Tables.h"
+#include "KxUnitsManagerImp.h"
+#include "KxUnitsUIConfig.h"
+
+namespace kxnorth::platform::core::units {
+
+using locale::LocaleUtil;
+
+QMap<int, char const*> UnitsDisplayNames::s_groupMap;
+QMap<int, char const*> UnitsDisplayNames::s_unitMap;
+QMap<int, UnitsDisplayNames::SymbolData> UnitsDisplayNames::s_symbolMap;
+QMap<int, char const*> UnitsDisplayNames::s_numberFormatMap;
+QMap<QString, QMap<int, QStringList>> UnitsDisplayNames::s_symbolAlternatesMap;
+QStringList const UnitsDisplayNames::s_emptyStringList;
+
+namespace {
+
+constexpr char kUnitsModule[] = "KxCoreUnitsUI";
+constexpr char kSymbolsModule[] = "KxCoreUnitsUI_units_symbols";
+constexpr char kAlternatesModule[] = "KxCoreUnitsUI_units_parsing_alternate_symbols";
+constexpr int kMaxAlternates = 10;
+
+// The first row of an identifier wins; later duplicates are ignored.
+void FillFrom(QMap<int, char const*>& map, detail::NameRow const* rows, bool negativeEnds) {
+    if (!map.isEmpty()) return;
+    for (detail::NameRow const* row = rows; negativeEnds ? row->id >= 0 : row->id != 0; ++row) {
+        if (!map.contains(row->id)) map.insert(row->id, row->name);
+    }
+}
+
+}  // namespace
+
+UnitsDisplayNames::UnitsDisplayNames(wchar_t const* locale)
+    : UnitsDisplayNames(locale == nullptr ? QString() : QString::fromWCharArray(locale)) {}
+
+UnitsDisplayNames::UnitsDisplayNames(QString const& locale) : m_locale(locale) {
+    if (m_locale.isEmpty()) UseSystemLocale();
+    Initialize();
+}
+
+void UnitsDisplayNames::UseSystemLocale() {
+    wchar_t buffer[10];
+    UnitsManager const* manager = UnitsManager::GetInstance();
+    int const length = manager == nullptr ? 0 : manager->GetCurrentLocale(buffer, 10);
+    m_locale = length >= 1 ? QString::fromWCharArray(buffer, length) : QStringLiteral("en-US");
+}
+
+void UnitsDisplayNames::LoadTranslator(QTranslator& translator, QString const& module) {
+    UnitsManagerImp* pMgr = UnitsManagerImp::GetImpInstance();
+    KX_ASSERT(pMgr != NULL);
+    QString const file =
+        LocaleUtil::ResolveTranslatorFile(module, module, m_locale, pMgr->GetTranslatorFilesPath());
+    bool const bLoaded = translator.load(file);
+    KX_ASSERT(bLoaded);
+}
+
+void UnitsDisplayNames::Initialize() {
+    UnitsManagerImp* pMgr = UnitsManagerImp::GetImpInstance();
+    KX_ASSERT(pMgr != NULL);
+    // A locale without translations of its own falls back to the system locale; the
+    // symbol modules follow whatever locale stands after that.
+    QString const unitsFile = LocaleUtil::ResolveTranslatorFile(
+        QString::fromLatin1(kUnitsModule), QString::fromLatin1(kUnitsModule), m_locale,
+        pMgr->GetTranslatorFilesPath());
+    if (!QFile::exists(unitsFile)) UseSystemLocale();
+    LoadTranslator(m_unitsTranslator, QString::fromLatin1(kUnitsModule));
+    LoadTranslator(m_symbolsTranslator, QString::fromLatin1(kSymbolsModule));
+    LoadTranslator(m_alternatesTranslator, QString::fromLatin1(kAlternatesModule));
+
+    FillNameMaps();
+    FillAlternates();
+    UnitsUIConfig::GetInstance()->LoadSymbols(m_locale, *this);
+}
+
+void UnitsDisplayNames::FillNameMaps() {
+    FillFrom(s_groupMap, detail::GroupNames, false);
+    FillFrom(s_unitMap, detail::unitNames, false);
+    if (s_symbolMap.isEmpty()) {
+        for (detail::SymbolNameRow const* row = detail::symbolNames; row->id != 0; ++row) {
+            if (!s_symbolMap.contains(row->id)) s_symbolMap.insert(row->id, {row->name, row->kind});
+        }
+    }
+    FillFrom(s_numberFormatMap, detail::formatNames, true);
+}
+
+void UnitsDisplayNames::FillAlternates() const {
+    if (s_symbolAlternatesMap.contains(m_locale)) return;
+    QMap<int, QStringList> alternates;
+    if (!m_alternatesTranslator.isEmpty()) {
+        UnitsConfig const* config = UnitsConfig::GetInstance();
+        for (auto it = s_symbolMap.constBegin(); it != s_symbolMap.constEnd(); ++it) {
+            QByteArray const base =
+                "eS" + QString::fromWCharArray(config->GetGlobalName(it.key())).toUtf8() + "_Alternate";
+            QByteArray const context = symbolContext(static_cast<UnitSymbol>(it.key())).toUtf8();
+            QStringList list;
+            // Every number is tried: a gap in the numbering does not end the list.
+            for (int n = 1; n <= kMaxAlternates; ++n) {
+                QByteArray const key = base + QByteArray::number(n);
+                QString const text = m_alternatesTranslator.translate(context.constData(), key.constData(), nullptr, -1);
+                if (!text.isEmpty()) list.append(text);
+            }
+            if (!list.isEmpty()) alternates.insert(it.key(), list);
+        }
+    }
+    s_symbolAlternatesMap.insert(m_locale, alternates);
+}
+
+QString UnitsDisplayNames::unitName(teType unit) const {
+    auto it = s_unitMap.constFind(unit & kIdentityMask);
+    if (it == s_unitMap.constEnd()) return QString();
+    return LocaleUtil::Translate(m_unitsTranslator, QStringLiteral("UnitType"), QString::fromUtf8(it.value()));
+}
+
+QString UnitsDisplayNames::GroupName(teGroup group) const {
+    auto it = s_groupMap.constFind(group & kIdentityMask);
+    if (it == s_groupMap.constEnd()) return QString();
+    return LocaleUtil::Translate(m_unitsTranslator, QStringLiteral("UnitGroup"), QString::fromUtf8(it.value()));
+}
+
+QString UnitsDisplayNames::numberFormatName(NumberFormat format) const {
+    auto it = s_numberFormatMap.constFind(format);
+    if (it == s_numberFormatMap.constEnd()) return QString();
+    return LocaleUtil::Translate(m_unitsTranslator, QStringLiteral("NumberFormat"), QString::fromUtf8(it.value()));
+}
+
+QString UnitsDisplayNames::symbolName(UnitSymbol symbol) const {
+    auto it = s_symbolMap.constFind(symbol & kIdentityMask);
+    if (it == s_symbolMap.constEnd()) return QString();
+    switch (it->kind) {
+        case eSKUnitName:
+            return unitName(static_cast<teType>(symbol & kUnitMask));
+        case eSKText:
+            return QString::fromUtf8(it->name);
+        default:
+            return LocaleUtil::Translate(m_symbolsTranslator, symbolContext(symbol), QString::fromUtf8(it->name));
+    }
+}
+
+QStringList const& UnitsDisplayNames::symbolAlternateNames(UnitSymbol symbol) const {
+    auto locale = s_symbolAlternatesMap.constFind(m_locale);
+    if (locale == s_symbolAlternatesMap.constEnd()) return s_emptyStringList;
+    auto it = locale->constFind(symbol & kIdentityMask);
+    return it == locale->constEnd() ? s_emptyStringList : it.value();
+}
+
+QString UnitsDisplayNames::translate(QString const& context, QString const& text) const {
+    return LocaleUtil::Translate(m_unitsTranslator, context, text);
+}
+
+QString UnitsDisplayNames::symbolContext(UnitSymbol symbol) {
+    return QStringLiteral("UnitSymbol_") + StringUtil::GetUnitGlobalName(symbol & kGroupMask);
+}
+
+}  // namespace kxnorth::platform::core::units

@@ -1,0 +1,69 @@
+// Translated names of unit groups, unit types, symbols and number formats for one
+// locale, and the alternate texts a user may type for a symbol.
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <QTranslator>
+
+#include "KxCoreUnits/UnitsEnums.h"
+#include "KxCoreUnitsUI/KxCoreUnitsUIExport.h"
+
+namespace kxnorth::platform::core::units {
+
+class KXCOREUNITSUI_EXPORT UnitsDisplayNames {
+public:
+    using teGroup = kxp::IDesignPropertyUnits::teGroup;
+    using teType = kxp::IDesignPropertyUnits::teType;
+
+    // How a symbol's name is found.
+    enum SymbolKind : int {
+        eSKTranslationKey = 0,  // "eS" + global name, in the symbols translator
+        eSKUnitName = 1,        // the name of the symbol's unit
+        eSKText = 2,            // the stored text, untranslated
+        eSKEnd = 3,
+    };
+    struct SymbolData {
+        char const* name;
+        int kind;
+    };
+
+    explicit UnitsDisplayNames(wchar_t const* locale);
+    explicit UnitsDisplayNames(QString const& locale);
+    UnitsDisplayNames(UnitsDisplayNames const&) = delete;
+    UnitsDisplayNames& operator=(UnitsDisplayNames const&) = delete;
+
+    QString const& locale() const { return m_locale; }
+
+    QString unitName(teType unit) const;
+    QString GroupName(teGroup group) const;
+    QString symbolName(UnitSymbol symbol) const;
+    QStringList const& symbolAlternateNames(UnitSymbol symbol) const;
+    QString numberFormatName(NumberFormat format) const;
+    QString translate(QString const& context, QString const& text) const;
+
+    // "UnitSymbol_" + the global name of the symbol's group.
+    static QString symbolContext(UnitSymbol symbol);
+
+private:
+    void UseSystemLocale();
+    void Initialize();
+    void LoadTranslator(QTranslator& translator, QString const& module);
+    static void FillNameMaps();
+    void FillAlternates() const;
+
+    QString m_locale;
+    QTranslator m_unitsTranslator;
+    QTranslator m_symbolsTranslator;
+    QTranslator m_alternatesTranslator;
+
+    static QMap<int, char const*> s_groupMap;
+    static QMap<int, char const*> s_unitMap;
+    static QMap<int, SymbolData> s_symbolMap;
+    static QMap<int, char const*> s_numberFormatMap;
+    static QMap<QString, QMap<int, QStringList>> s_symbolAlternatesMap;
+    static QStringList const s_emptyStringList;
+};
+
+}  // namespace kxnorth::platform::core::units
