@@ -2,11 +2,17 @@
 // catalogue symbol, and the one parse dictionary that typed text is cut with.
 #pragma once
 
+#include <QMap>
 #include <QString>
+#include <list>
+#include <memory>
 #include <string>
+#include <unordered_map>
+#include <vector>
 
 #include "KxCoreUnits/UnitsEnums.h"
 #include "KxCoreUnitsUI/KxCoreUnitsUIExport.h"
+#include "KxUnitsStringDict.h"
 
 namespace kxnorth::platform::core::units {
 
@@ -14,21 +20,40 @@ class ISymbol;
 class IParseSymbol;
 class UnitsDisplayNames;
 
+// One entry of a locale's table; owns its symbol object.
+struct SymbolInfo {
+    explicit SymbolInfo(ISymbol* symbol);
+    ~SymbolInfo();
+    SymbolInfo(SymbolInfo const&) = delete;
+    SymbolInfo& operator=(SymbolInfo const&) = delete;
+    ISymbol* symbol;
+};
+
 class KXCOREUNITSUI_EXPORT UnitsUIConfig {
 public:
+    // table[group - 1][unit - 1][symbol index - 1]
+    using SymbolTable = std::vector<std::vector<std::vector<std::unique_ptr<SymbolInfo>>>>;
+
     static UnitsUIConfig* GetInstance();
 
     // Builds the locale's table on its first request; later requests do nothing.
     void LoadSymbols(QString const& locale, UnitsDisplayNames const& names);
+    void InitSymbolTable(QString const& locale, UnitsDisplayNames const& names);
+    // Makes sure the locale's table exists, creating its display names when needed.
+    void InitSymbolTable(QString const& locale) const;
 
     ISymbol* FindSymbol(int id, QString const& locale) const;
     // A unit identifier stands for its default symbol.
     ISymbol* FindSymbol(int id, UnitsDisplayNames const& names) const;
-    // The longest parse symbol at the start of `text`; `length` gets the characters matched.
+    // The longest parse symbol at the start of `text`; `length` gets the characters
+    // matched. Null, with `length` untouched, when nothing matches.
     IParseSymbol const* FindSymbol(wchar_t const* text, unsigned long* length) const;
 
     int GetDisplayNameLength(int id, unsigned long& length, QString const& locale) const;
     int GetDisplayName(int id, wchar_t* buffer, unsigned long size, QString const& locale) const;
+
+    static int GetUnitTypesArray(kxp::IDesignPropertyUnits::teGroup group, int*& out);
+    static int GetUnitSymbolsArray(kxp::IDesignPropertyUnits::teType unit, int*& out);
 
     static std::wstring ConvertString(QString const& text);
 
@@ -38,6 +63,22 @@ public:
 private:
     UnitsUIConfig();
     ~UnitsUIConfig();
+
+    int InitParseSymTbl();
+    void AddToParseDict(QString const& text, IParseSymbol* symbol);
+    void AddAlternatesToSymbolDict(UnitSymbol symbol, UnitsDisplayNames const& names, SymbolTable const& table);
+    void AddFixed(IParseSymbol* symbol, std::initializer_list<wchar_t> characters);
+    ISymbol* CreateSymbol(int symbol, QString const& name, bool& parsable) const;
+
+    std::map<QString, SymbolTable> m_tables;
+    std::vector<std::unique_ptr<IParseSymbol>> m_ownedParseSymbols;
+    UnitsStringDict<IParseSymbol const> m_parseDict;
+
+    // Storage of every text added to the parse dictionary; the dictionary refers to
+    // the first stored copy of each text. One entry is appended per call, also for a
+    // text already stored.
+    static std::list<std::wstring> s_altSymbolCache;
+    static std::unordered_map<std::wstring, std::wstring const*> s_firstCopy;
 };
 
 }  // namespace kxnorth::platform::core::units

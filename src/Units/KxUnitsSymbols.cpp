@@ -1,0 +1,408 @@
+// The symbol interfaces and the evaluation of the parse list: numbers, fractions and
+// mixed numbers, unit operands, operators by priority, parentheses and spaces.
+#include "KxUnitsSymbols.h"
+
+#include <climits>
+#include <cmath>
+#include <iterator>
+
+#include "KxUnitsSymbols_Internal.h"
+
+namespace kxnorth::platform::core::units {
+
+using namespace symbols_detail;
+
+// ---------------------------------------------------------------------------------
+// Shared helpers
+
+namespace symbols_detail {
+
+double Pow10(int exponent) {
+    static constexpr double kExact[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                                        1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+    if (exponent <= 0) return 1.0;
+    if (exponent < static_cast<int>(std::size(kExact))) return kExact[exponent];
+    return std::pow(10.0, exponent);
+}
+
+int ToBase(int unit, double value, DimensionVector const* dims, GenericConverter& result) {
+    UnitConverter const* converter = UnitsConfig::GetInstance()->FindConverter(unit);
+    if (converter == nullptr) return 1;
+    double base = 0.0;
+    if (converter->ConvertToBase(&base, dims != nullptr ? *dims : converter->GetDimTag(), value) != 0) return 1;
+    result = GenericConverter(base, converter->GetDimTag());
+    return 0;
+}
+
+int ReduceToResult(ParseList& list, int unit, double value, DimensionVector const* dims) {
+    GenericConverter result;
+    if (ToBase(unit, value, dims, result) != 0) return 1;
+    list.front().Reset(new ResultSymbol(result), true);
+    list.erase(std::next(list.begin()), list.end());
+    return 0;
+}
+
+bool ReadNumberRun(ParseIterator first, ParseIterator last, int shapes, RunValue& out) {
+    // At most a carried number, a whole part, a numerator, the slash and a denominator.
+    constexpr int kLongestRun = 5;
+    IParseSymbol const* elements[kLongestRun];
+    int count = 0;
+    for (ParseIterator p = first; p != last; ++p) {
+        if (count == kLongestRun) return false;
+        elements[count++] = p->Get();
+    }
+    auto numberAt = [&](int i) { return dynamic_cast<NumberSymbol const*>(elements[i]); };
+
+    int start = 0;
+    NumberSymbol const* carried = nullptr;
+    if (count > 0 && numberAt(0) != nullptr && (numberAt(0)->GetFlags() & eNSCarried) != 0) {
+        if ((shapes & eRunAfterCarried) == 0) return false;
+        carried = numberAt(0);
+        start = 1;
+    }
+    int const parts = count - start;
+    NumberSymbol const* lead = nullptr;
+    double magnitude = 0.0;
+    if (parts == 1 && (shapes & eRunWhole) != 0) {
+        lead = numberAt(start);
+        if (lead == nullptr) return false;
+        magnitude = std::fabs(lead->GetNumber());
+    } else if ((parts == 3 && (shapes & eRunFraction) != 0) || (parts == 4 && (shapes & eRunMixed) != 0)) {
+        NumberSymbol const* whole = parts == 4 ? numberAt(start) : nullptr;
+        NumberSymbol const* numerator = numberAt(count - 3);
+        NumberSymbol const* denominator = numberAt(count - 1);
+        if ((parts == 4 && whole == nullptr) || numerator == nullptr || denominator == nullptr ||
+            dynamic_cast<DivisionSymbol const*>(elements[count - 2]) == nullptr) {
+            return false;
+        }
+        if (!(denominator->GetNumber() > 0.0)) return false;
+        if (whole != nullptr && numerator->IsNegative()) return false;
+        double const fraction = std::fabs(numerator->GetNumber()) / denominator->GetNumber();
+        lead = whole != nullptr ? whole : numerator;
+        magnitude = whole != nullptr ? std::fabs(whole->GetNumber()) + fraction : fraction;
+    } else {
+        return false;
+    }
+    for (int i = start; i < count; ++i) {
+        NumberSymbol const* n = numberAt(i);
+        if (n != nullptr && (n->GetFlags() & eNSCarried) != 0) return false;
+    }
+    bool negative = lead->IsNegative();
+    if (carried != nullptr) {
+        if (negative) return false;
+        magnitude += std::fabs(carried->GetNumber());
+        negative = carried->IsNegative();
+    }
+    out.value = negative ? -magnitude : magnitude;
+    out.negative = negative;
+    return true;
+}
+
+void ReplaceRunByCarried(ParseList& list, ParseIterator last, double value, bool negative) {
+    int const flags = eNSCarried | (negative ? eNSNegativeSign : 0);
+    list.front().Reset(new NumberSymbol(value, flags), true);
+    list.erase(std::next(list.begin()), last);
+}
+
+void DropSeparatorSign(ParseIterator number) {
+    NumberSymbol const* n = As<NumberSymbol>(number);
+    if (n == nullptr || (n->GetFlags() & eNSNegativeSign) == 0) return;
+    number->Reset(new NumberSymbol(std::fabs(n->GetNumber()), n->GetFlags() & ~eNSNegativeSign), true);
+}
+
+}  // namespace symbols_detail
+
+// ---------------------------------------------------------------------------------
+// Interfaces
+
+ISymbol::~ISymbol() = default;
+IFormatSymbol::~IFormatSymbol() = default;
+IParseSymbol::~IParseSymbol() = default;
+OperandSymbol::~OperandSymbol() = default;
+
+int IParseSymbol::Calculate(ParseList& list, DimensionVector const& dims) {
+    if (list.empty()) return 1;
+    for (bool const asOperand : {true, false}) {
+        for (ParseIterator it = list.begin(); it != list.end();) {
+            IParseSymbol const* symbol = it->Get();
+            if (symbol == nullptr) return 1;
+            if (symbol->Calculate(list, it, asOperand, dims) != 0) return 1;
+        }
+    }
+    return !list.empty() && As<ResultSymbol>(list.begin()) != nullptr ? 0 : 1;
+}
+
+// ---------------------------------------------------------------------------------
+// Operands and results
+
+int OperandSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const&) const {
+    ParseIterator const self = it;
+    ++it;
+    if (asOperand || it != list.end() || self == list.begin()) return 0;
+    // The last element: the numbers before it are read in this unit.
+    if (std::next(list.begin()) == self) {
+        NumberSymbol const* number = As<NumberSymbol>(list.begin());
+        if (number != nullptr) {
+            UnitConverter const& converter = GetConverter();
+            double base = 0.0;
+            if (converter.ConvertToBase(&base, converter.GetDimTag(), number->GetNumber()) != 0) return 1;
+            list.front().Reset(new ResultSymbol(GenericConverter(base, converter.GetDimTag())), true);
+            list.erase(self);
+            return 0;
+        }
+    }
+    ParseIterator at = self;
+    return DoCalc(list, at);
+}
+
+int OperandSymbol::DoCalc(ParseList& list, ParseIterator& it) const {
+    RunValue amount;
+    if (!ReadNumberRun(list.begin(), it, eRunFraction | eRunMixed, amount)) return 1;
+    UnitConverter const& converter = GetConverter();
+    double base = 0.0;
+    if (converter.ConvertToBase(&base, converter.GetDimTag(), amount.value) != 0) return 1;
+    GenericConverter const result(base, converter.GetDimTag());
+    list.front().Reset(new ResultSymbol(result), true);
+    list.erase(std::next(list.begin()), list.end());
+    it = list.end();
+    return 0;
+}
+
+GenericOperand::GenericOperand(GenericConverter const& converter) : m_converter(converter) {}
+GenericOperand::~GenericOperand() = default;
+
+ResultSymbol::ResultSymbol(GenericConverter const& converter) : GenericOperand(converter) {}
+ResultSymbol::~ResultSymbol() = default;
+
+int ResultSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const&) const {
+    ParseIterator const self = it;
+    ++it;
+    // Anything left before a result is an error: `1/2 °C` converts only the 2.
+    if (!asOperand && it == list.end() && self != list.begin()) return 1;
+    return 0;
+}
+
+// ---------------------------------------------------------------------------------
+// Numbers
+
+NumberSymbol::NumberSymbol(double value, int flags) : m_value(value), m_flags(flags) {}
+NumberSymbol::~NumberSymbol() = default;
+
+bool NumberSymbol::IsNegative() const { return (m_flags & eNSNegativeSign) != 0 || std::signbit(m_value); }
+
+int NumberSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const {
+    ParseIterator const self = it;
+    ++it;
+    if (asOperand) {
+        // `6-1/2"`: the number reader takes the hyphen the fraction writers put between
+        // whole and fraction for the numerator's sign. A minus sign directly after a
+        // number, on a number that opens a fraction, is that separator: there is no
+        // subtraction, so the sign has no other reading. After a space (`5 -1/2`) it
+        // stays a sign and the mixed number is refused.
+        if (it != list.end() && std::next(it) != list.end() && As<DivisionSymbol>(std::next(it)) != nullptr) {
+            DropSeparatorSign(it);
+        }
+        return 0;
+    }
+    if (it != list.end()) return 0;
+    ParseIterator at = self;
+    return DoCalc(list, at, dims);
+}
+
+int NumberSymbol::DoCalc(ParseList& list, ParseIterator& it, DimensionVector const& dims) const {
+    RunValue amount;
+    if (!ReadNumberRun(list.begin(), std::next(it), eRunFraction | eRunMixed, amount)) return 1;
+    list.front().Reset(new ResultSymbol(GenericConverter(amount.value, dims)), true);
+    list.erase(std::next(list.begin()), list.end());
+    it = list.end();
+    return 0;
+}
+
+// ---------------------------------------------------------------------------------
+// Operators
+
+OperatorSymbol::OperatorSymbol(int priority, int kind) : m_priority(priority), m_kind(kind) {}
+OperatorSymbol::~OperatorSymbol() = default;
+
+int OperatorSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const {
+    if (asOperand) {
+        ++it;
+        return 0;
+    }
+    if ((m_kind & 3) != eImmediate) {
+        // Operators of higher priority on the right bind first: in `a*b^2` the power
+        // applies to b before the product. Equal priorities group from the left.
+        ParseIterator next = std::next(it);
+        if (next == list.end()) return 1;
+        if (As<OperandSymbol>(next) != nullptr) ++next;
+        while (next != list.end()) {
+            OperatorSymbol const* right = As<OperatorSymbol>(next);
+            if (right == nullptr) {
+                it = next;  // this operator waits until its right side is reduced
+                return 0;
+            }
+            if (m_priority >= right->GetPriority()) break;
+            if (right->Calculate(list, next, false, dims) != 0) return 1;
+            if (next != list.begin()) --next;
+        }
+    }
+    return DoCalc(list, it) != 0 ? 1 : 0;
+}
+
+namespace {
+
+// The operands on both sides of the binary operator at `it`, or false.
+bool BinaryOperands(ParseList& list, ParseIterator it, OperandSymbol const*& left, OperandSymbol const*& right) {
+    if (it == list.begin() || std::next(it) == list.end()) return false;
+    left = As<OperandSymbol>(std::prev(it));
+    right = As<OperandSymbol>(std::next(it));
+    return left != nullptr && right != nullptr;
+}
+
+// The left operand's slot takes `result`; the operator node and `rightmost` nodes
+// after it are erased; `it` is left on the result. The operator must not be used
+// after this: it may have been deleted with its node.
+void ReplaceLeft(ParseList& list, ParseIterator& it, GenericConverter const& result, int erasedAfter) {
+    ParseIterator const left = std::prev(it);
+    ParseIterator const self = it;
+    ParseIterator const end = std::next(self, 1 + erasedAfter);
+    left->Reset(new GenericOperand(result), true);
+    it = left;
+    list.erase(self, end);
+}
+
+// Powers beyond this leave every factor at zero or infinity and only cost time.
+constexpr double kLargestPower = 1024.0;
+
+}  // namespace
+
+MultiplicationSymbol::MultiplicationSymbol() : OperatorSymbol(10, eBinary) {}
+MultiplicationSymbol::~MultiplicationSymbol() = default;
+
+int MultiplicationSymbol::DoCalc(ParseList& list, ParseIterator& it) const {
+    OperandSymbol const* left = nullptr;
+    OperandSymbol const* right = nullptr;
+    if (!BinaryOperands(list, it, left, right)) return 1;
+    ReplaceLeft(list, it, CopyConverter(left->GetConverter()) * CopyConverter(right->GetConverter()), 1);
+    return 0;
+}
+
+DivisionSymbol::DivisionSymbol() : OperatorSymbol(10, eBinary) {}
+DivisionSymbol::~DivisionSymbol() = default;
+
+int DivisionSymbol::DoCalc(ParseList& list, ParseIterator& it) const {
+    OperandSymbol const* left = nullptr;
+    OperandSymbol const* right = nullptr;
+    if (!BinaryOperands(list, it, left, right)) return 1;
+    ReplaceLeft(list, it, CopyConverter(left->GetConverter()) / CopyConverter(right->GetConverter()), 1);
+    return 0;
+}
+
+SquareSymbol::SquareSymbol() : OperatorSymbol(20, eImmediate) {}
+SquareSymbol::~SquareSymbol() = default;
+
+int SquareSymbol::DoCalc(ParseList& list, ParseIterator& it) const {
+    if (it == list.begin()) return 1;
+    OperandSymbol const* left = As<OperandSymbol>(std::prev(it));
+    if (left == nullptr) return 1;
+    GenericConverter const unit = CopyConverter(left->GetConverter());
+    ReplaceLeft(list, it, unit * unit, 0);
+    return 0;
+}
+
+CubicSymbol::CubicSymbol() : OperatorSymbol(20, eImmediate) {}
+CubicSymbol::~CubicSymbol() = default;
+
+int CubicSymbol::DoCalc(ParseList& list, ParseIterator& it) const {
+    if (it == list.begin()) return 1;
+    OperandSymbol const* left = As<OperandSymbol>(std::prev(it));
+    if (left == nullptr) return 1;
+    GenericConverter const unit = CopyConverter(left->GetConverter());
+    ReplaceLeft(list, it, unit * unit * unit, 0);
+    return 0;
+}
+
+CaretSymbol::CaretSymbol() : OperatorSymbol(20, eImmediate) {}
+CaretSymbol::~CaretSymbol() = default;
+
+int CaretSymbol::DoCalc(ParseList& list, ParseIterator& it) const {
+    if (it == list.begin() || std::next(it) == list.end()) return 1;
+    OperandSymbol const* left = As<OperandSymbol>(std::prev(it));
+    NumberSymbol const* exponent = As<NumberSymbol>(std::next(it));
+    // A power is a whole number of at least 1 written without decimals.
+    if (left == nullptr || exponent == nullptr || (exponent->GetFlags() & eNSDecimals) != 0) return 1;
+    double const power = std::trunc(exponent->GetNumber());
+    if (!(power >= 1.0) || power > kLargestPower) return 1;
+    GenericConverter const unit = CopyConverter(left->GetConverter());
+    for (int d : unit.GetDimTag()) {
+        if (std::fabs(static_cast<double>(d) * power) > INT_MAX) return 1;
+    }
+    GenericConverter result = unit;
+    for (int i = 1; i < static_cast<int>(power); ++i) result = result * unit;
+    ReplaceLeft(list, it, result, 1);
+    return 0;
+}
+
+LeftParenthesisSymbol::LeftParenthesisSymbol() : OperatorSymbol(50, eOpening) {}
+LeftParenthesisSymbol::~LeftParenthesisSymbol() = default;
+
+int LeftParenthesisSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand,
+                                     DimensionVector const& dims) const {
+    ++it;
+    if (asOperand) return 0;
+    if (it == list.end() || it->Get() == nullptr) return 1;
+    return it->Get()->Calculate(list, it, false, dims);
+}
+
+int LeftParenthesisSymbol::DoCalc(ParseList&, ParseIterator&) const { return 0; }
+
+RightParenthesisSymbol::RightParenthesisSymbol() : OperatorSymbol(0, eImmediate) {}
+RightParenthesisSymbol::~RightParenthesisSymbol() = default;
+
+int RightParenthesisSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const&) const {
+    if (asOperand) {
+        ++it;
+        return 0;
+    }
+    if (it == list.begin()) return 1;
+    ParseIterator const self = it;
+    ParseIterator opening = std::prev(self);
+    while (As<LeftParenthesisSymbol>(opening) == nullptr) {
+        if (opening == list.begin()) return 1;
+        --opening;
+    }
+    list.erase(opening);
+    ParseIterator const left = self == list.begin() ? list.end() : std::prev(self);
+    list.erase(self);
+    if (left == list.end()) {
+        it = list.begin();
+        return 0;
+    }
+    // One further back, so that an operator waiting before the parenthesis runs again.
+    it = left;
+    if (it != list.begin()) --it;
+    return 0;
+}
+
+int RightParenthesisSymbol::DoCalc(ParseList&, ParseIterator&) const { return 0; }
+
+// ---------------------------------------------------------------------------------
+// Spaces
+
+SpaceSymbol::~SpaceSymbol() = default;
+
+int SpaceSymbol::Calculate(ParseList& list, ParseIterator& it, bool, DimensionVector const&) const {
+    ParseIterator const self = it;
+    ParseIterator const next = std::next(self);
+    bool const operandOnLeft = self != list.begin() && As<OperandSymbol>(std::prev(self)) != nullptr;
+    bool const operandOnRight = next != list.end() && As<OperandSymbol>(next) != nullptr;
+    it = next;
+    if ((self == list.begin() || operandOnLeft) && operandOnRight) {
+        self->Reset(new MultiplicationSymbol, true);
+    } else {
+        list.erase(self);
+    }
+    return 0;
+}
+
+}  // namespace kxnorth::platform::core::units

@@ -1,0 +1,646 @@
+// Unit symbols: the objects that write a value with its unit's marks and that take
+// part in reading typed text.
+//
+// Reading works on a parse list: the driver cuts typed text into numbers, unit
+// symbols, operators, parentheses, spaces and marks, and IParseSymbol::Calculate
+// reduces that list in place, in two passes, to one ResultSymbol holding the value in
+// base units with its dimensions. The first pass (asOperand true) decides the role of
+// symbols that can be a unit after a number or an operand of an operator; the second
+// applies numbers, fractions, marks and operators by priority.
+//
+// Every symbol class whose text is given exists twice: the classes here take
+// `wchar_t const*`, their twins ending in 2 (KxUnitsSymbols2.h) take a QString. Both
+// are instantiations of one template per kind (BasicGenericSymbol, ...), so the two
+// families run the same code and differ only in their constructors.
+#pragma once
+
+#include <list>
+#include <string>
+#include <vector>
+
+#include "KxCoreUnits/UnitConverter.h"
+#include "KxCoreUnits/UnitsEnums.h"
+#include "KxCoreUnitsUI/KxCoreUnitsUIExport.h"
+
+namespace kxnorth::platform::core::units {
+
+class UnitsFormatterImp;
+class IParseSymbol;
+class CustomSymbol;
+
+// A pointer that owns its object only when told so: the parse list holds the
+// dictionary's long-lived symbols without ownership and the symbols that evaluation
+// creates with it.
+template <typename T>
+class UnitsOwnPtr {
+public:
+    UnitsOwnPtr() = default;
+    UnitsOwnPtr(T* pointer, bool owned) : m_pointer(pointer), m_owned(owned) {}
+    UnitsOwnPtr(UnitsOwnPtr&& other) noexcept : m_pointer(other.m_pointer), m_owned(other.m_owned) {
+        other.m_pointer = nullptr;
+        other.m_owned = false;
+    }
+    UnitsOwnPtr& operator=(UnitsOwnPtr&& other) noexcept {
+        if (this != &other) {
+            Reset(other.m_pointer, other.m_owned);
+            other.m_pointer = nullptr;
+            other.m_owned = false;
+        }
+        return *this;
+    }
+    UnitsOwnPtr(UnitsOwnPtr const&) = delete;
+    UnitsOwnPtr& operator=(UnitsOwnPtr const&) = delete;
+    ~UnitsOwnPtr() { DeleteIfOwned(); }
+
+    // Puts `pointer` in the slot; the previous object is deleted when it was owned.
+    // A symbol that replaces its own slot must not touch its members afterwards.
+    void Reset(T* pointer, bool owned) {
+        if (pointer != m_pointer) DeleteIfOwned();
+        m_pointer = pointer;
+        m_owned = owned;
+    }
+
+    T* Get() const { return m_pointer; }
+    T* operator->() const { return m_pointer; }
+    T& operator*() const { return *m_pointer; }
+    explicit operator bool() const { return m_pointer != nullptr; }
+    bool IsOwned() const { return m_owned; }
+
+private:
+    void DeleteIfOwned() {
+        if (m_owned) delete m_pointer;
+        m_pointer = nullptr;
+        m_owned = false;
+    }
+
+    T* m_pointer = nullptr;
+    bool m_owned = false;
+};
+
+using ParseList = std::list<UnitsOwnPtr<IParseSymbol const>>;
+using ParseIterator = ParseList::iterator;
+
+// ---------------------------------------------------------------------------------
+// Interfaces
+
+class KXCOREUNITSUI_EXPORT ISymbol {
+public:
+    virtual ~ISymbol();
+
+protected:
+    ISymbol() = default;
+};
+
+// Results: a count of characters or 0 on success, -1 when the symbol cannot write (no
+// buffer, no room, no such component), or a failed conversion's code negated.
+class KXCOREUNITSUI_EXPORT IFormatSymbol : public virtual ISymbol {
+public:
+    ~IFormatSymbol() override;
+
+    // Writes `value` (in base units of `dims`) with the symbol's marks.
+    virtual int Format(double value, DimensionVector const& dims, wchar_t* buffer, unsigned long size,
+                       UnitsFormatterImp const& formatter) const = 0;
+    // Writes only number component `index` of the value, without marks.
+    virtual int FormatNumber(int index, double value, DimensionVector const& dims, wchar_t* buffer,
+                             unsigned long size, UnitsFormatterImp const& formatter) const = 0;
+    // Reads the numbers leading `list` as the components of form `form` and puts the
+    // value in base units, as a ResultSymbol, into the first element. 0 done, 1 not.
+    virtual int ParseNumber(ParseList& list, int form) const = 0;
+    // The highest component index of form `form`, or a negative value when the
+    // symbol has no such form.
+    virtual int GetMaxIndex(int form) const = 0;
+    // Builds the custom symbols of `pieces` and `indices` (Custom symbol strings) over
+    // this symbol; the caller owns what is appended to `out`. 0 done.
+    virtual int GenerateCustomSymbols(std::vector<CustomSymbol*>& out, std::vector<std::wstring> const& pieces,
+                                      std::vector<int> const& indices) const = 0;
+    virtual wchar_t const* GetSymbolName() const = 0;
+
+protected:
+    IFormatSymbol() = default;
+};
+
+class KXCOREUNITSUI_EXPORT IParseSymbol : public virtual ISymbol {
+public:
+    ~IParseSymbol() override;
+
+    // Reduces `list` to one ResultSymbol: 0 done, 1 the list does not evaluate (it is
+    // then left partly reduced). `dims` are those of the quantity being read; a bare
+    // number or fraction stands in its base unit.
+    [[nodiscard]] static int Calculate(ParseList& list, DimensionVector const& dims);
+
+    // Called for the element at `it`; leaves `it` on the next element to visit.
+    // 0 goes on, anything else aborts the evaluation.
+    virtual int Calculate(ParseList& list, ParseIterator& it, bool asOperand,
+                          DimensionVector const& dims) const = 0;
+
+protected:
+    IParseSymbol() = default;
+};
+
+// A unit that operators combine: `2 ft m`, `m/s`, `in²`.
+class KXCOREUNITSUI_EXPORT OperandSymbol : public virtual IParseSymbol {
+public:
+    ~OperandSymbol() override;
+
+    int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
+    // The unit of the operand.
+    virtual UnitConverter const& GetConverter() const = 0;
+    // The fraction or mixed number that ends just before the operand at `it`, read in
+    // the operand's unit, becomes the result.
+    int DoCalc(ParseList& list, ParseIterator& it) const;
+
+protected:
+    OperandSymbol() = default;
+};
+
+// An operand that evaluation made: a product, quotient or power of units, or a copy
+// of a unit's converter.
+class KXCOREUNITSUI_EXPORT GenericOperand : public virtual OperandSymbol {
+public:
+    explicit GenericOperand(GenericConverter const& converter);
+    ~GenericOperand() override;
+
+    UnitConverter const& GetConverter() const override { return m_converter; }
+
+private:
+    GenericConverter m_converter;
+};
+
+// The value read: its converter's factor is the value in base units.
+class KXCOREUNITSUI_EXPORT ResultSymbol : public virtual GenericOperand {
+public:
+    explicit ResultSymbol(GenericConverter const& converter);
+    ~ResultSymbol() override;
+
+    int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
+};
+
+// Flags of a number, as the number reader reports them, plus the evaluation's own.
+enum NumberSymbolFlags : int {
+    eNSNegativeSign = 2,    // written with a leading minus sign
+    eNSDecimals = 32,       // written with a decimal separator: never a power
+    eNSCarried = 0x10000,   // made by a mark from the parts before it, in the next smaller
+                            // unit (inches, seconds); its sign governs what follows it
+};
+
+class KXCOREUNITSUI_EXPORT NumberSymbol : public virtual IParseSymbol {
+public:
+    NumberSymbol(double value, int flags);
+    ~NumberSymbol() override;
+
+    int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
+    // The fraction or mixed number that ends with the number at `it`, in base units of
+    // `dims`, becomes the result.
+    int DoCalc(ParseList& list, ParseIterator& it, DimensionVector const& dims) const;
+
+    double GetNumber() const { return m_value; }
+    int GetFlags() const { return m_flags; }
+    // The minus sign counts even on a zero: "-0'-6"" is negative.
+    bool IsNegative() const;
+
+private:
+    double m_value;
+    int m_flags;
+};
+
+class KXCOREUNITSUI_EXPORT OperatorSymbol : public virtual IParseSymbol {
+public:
+    // Kinds: only the low two bits are read; 2 applies the operator at once, without
+    // first evaluating operators of higher priority to its right.
+    enum Kind : int { eBinary = 1, eImmediate = 2, eOpening = 3 };
+
+    OperatorSymbol(int priority, int kind);
+    ~OperatorSymbol() override;
+
+    int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
+    // Applies the operator at `it` to its neighbours; leaves `it` on the result.
+    virtual int DoCalc(ParseList& list, ParseIterator& it) const = 0;
+
+    int GetPriority() const { return m_priority; }
+    int GetKind() const { return m_kind; }
+
+private:
+    int m_priority;
+    int m_kind;
+};
+
+// Between two units a space multiplies (`2 ft m`); anywhere else it only separates,
+// so that `5 1/2` stays a mixed number.
+class KXCOREUNITSUI_EXPORT SpaceSymbol : public virtual IParseSymbol {
+public:
+    SpaceSymbol() = default;
+    ~SpaceSymbol() override;
+    int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
+};
+
+class KXCOREUNITSUI_EXPORT MultiplicationSymbol : public virtual OperatorSymbol {
+public:
+    MultiplicationSymbol();
+    ~MultiplicationSymbol() override;
+    int DoCalc(ParseList& list, ParseIterator& it) const override;
+};
+
+class KXCOREUNITSUI_EXPORT DivisionSymbol : public virtual OperatorSymbol {
+public:
+    DivisionSymbol();
+    ~DivisionSymbol() override;
+    int DoCalc(ParseList& list, ParseIterator& it) const override;
+};
+
+class KXCOREUNITSUI_EXPORT SquareSymbol : public virtual OperatorSymbol {
+public:
+    SquareSymbol();
+    ~SquareSymbol() override;
+    int DoCalc(ParseList& list, ParseIterator& it) const override;
+};
+
+class KXCOREUNITSUI_EXPORT CubicSymbol : public virtual OperatorSymbol {
+public:
+    CubicSymbol();
+    ~CubicSymbol() override;
+    int DoCalc(ParseList& list, ParseIterator& it) const override;
+};
+
+// `unit ^ n` for a whole n of at least 1.
+class KXCOREUNITSUI_EXPORT CaretSymbol : public virtual OperatorSymbol {
+public:
+    CaretSymbol();
+    ~CaretSymbol() override;
+    int DoCalc(ParseList& list, ParseIterator& it) const override;
+};
+
+class KXCOREUNITSUI_EXPORT LeftParenthesisSymbol : public virtual OperatorSymbol {
+public:
+    LeftParenthesisSymbol();
+    ~LeftParenthesisSymbol() override;
+    int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
+    int DoCalc(ParseList& list, ParseIterator& it) const override;
+};
+
+class KXCOREUNITSUI_EXPORT RightParenthesisSymbol : public virtual OperatorSymbol {
+public:
+    RightParenthesisSymbol();
+    ~RightParenthesisSymbol() override;
+    int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
+    int DoCalc(ParseList& list, ParseIterator& it) const override;
+};
+
+// ---------------------------------------------------------------------------------
+// Symbols of ordinary units: a number followed by the unit's text.
+
+// Holds the symbol text and the flags; formats only the text. Bit 0 of the flags
+// leaves out the space between the number and the text (`5'`, `45°`).
+class KXCOREUNITSUI_EXPORT SimpleFormatSymbolBase : public virtual IFormatSymbol {
+public:
+    enum Flags : int { eNoSpace = 1 };
+
+    ~SimpleFormatSymbolBase() override;
+
+    // Writes the text (after a space unless eNoSpace); returns the characters written
+    // including the terminator.
+    int Format(double value, DimensionVector const& dims, wchar_t* buffer, unsigned long size,
+               UnitsFormatterImp const& formatter) const override;
+    int FormatNumber(int index, double value, DimensionVector const& dims, wchar_t* buffer, unsigned long size,
+                     UnitsFormatterImp const& formatter) const override;
+    int ParseNumber(ParseList& list, int form) const override;
+    int GetMaxIndex(int form) const override;
+    int GenerateCustomSymbols(std::vector<CustomSymbol*>& out, std::vector<std::wstring> const& pieces,
+                              std::vector<int> const& indices) const override;
+    wchar_t const* GetSymbolName() const override { return m_text.c_str(); }
+
+    std::wstring const& GetText() const { return m_text; }
+    int GetFlags() const { return m_flags; }
+
+protected:
+    SimpleFormatSymbolBase(std::wstring text, int flags);
+
+    // Writes the optional space, the text and its terminator at `buffer`; the count
+    // written including the terminator, or -1 when `size` is too small.
+    int AppendText(wchar_t* buffer, unsigned long size) const;
+
+private:
+    std::wstring m_text;
+    int m_flags;
+};
+
+class KXCOREUNITSUI_EXPORT SimpleFormatSymbol : public SimpleFormatSymbolBase {
+public:
+    SimpleFormatSymbol(wchar_t const* text, int flags);
+    ~SimpleFormatSymbol() override;
+
+protected:
+    SimpleFormatSymbol(std::wstring text, int flags);
+};
+
+// A unit symbol: writes `2.50 m`, reads a number followed by its text, and is an
+// operand of products and quotients. `TextBase` is SimpleFormatSymbol or
+// SimpleFormatSymbol2.
+template <typename TextBase>
+class KXCOREUNITSUI_EXPORT BasicGenericSymbol : public OperandSymbol, public TextBase {
+public:
+    ~BasicGenericSymbol() override;
+
+    int Format(double value, DimensionVector const& dims, wchar_t* buffer, unsigned long size,
+               UnitsFormatterImp const& formatter) const override;
+    int FormatNumber(int index, double value, DimensionVector const& dims, wchar_t* buffer, unsigned long size,
+                     UnitsFormatterImp const& formatter) const override;
+    int ParseNumber(ParseList& list, int form) const override;
+    UnitConverter const& GetConverter() const override;
+
+    int GetUnitSymbol() const { return m_unitSymbol; }
+
+protected:
+    BasicGenericSymbol(std::wstring text, int unitSymbol, int flags);
+
+private:
+    int m_unitSymbol;
+    UnitConverter const* m_converter;
+};
+
+class KXCOREUNITSUI_EXPORT GenericSymbol : public BasicGenericSymbol<SimpleFormatSymbol> {
+public:
+    GenericSymbol(wchar_t const* text, int unitSymbol, int flags);
+    ~GenericSymbol() override;
+
+protected:
+    GenericSymbol(std::wstring text, int unitSymbol, int flags);
+};
+
+// A unit symbol with a name of its own, apart from the text it writes.
+template <typename GenericBase>
+class KXCOREUNITSUI_EXPORT BasicGenericSymbolEx : public GenericBase {
+public:
+    ~BasicGenericSymbolEx() override;
+    // The name when there is one, else the symbol text.
+    wchar_t const* GetSymbolName() const override;
+
+protected:
+    BasicGenericSymbolEx(std::wstring text, int unitSymbol, int flags, bool hasName, std::wstring name);
+
+private:
+    std::wstring m_name;
+    bool m_hasName;
+};
+
+class KXCOREUNITSUI_EXPORT GenericSymbolEx : public BasicGenericSymbolEx<GenericSymbol> {
+public:
+    // `name` may be null.
+    GenericSymbolEx(wchar_t const* text, int unitSymbol, int flags, wchar_t const* name);
+    ~GenericSymbolEx() override;
+};
+
+// A unit whose zero is offset (temperatures). After a number it converts with the
+// offset (`20 °C`); as an operand of an operator it stands for its difference unit
+// (`5 °C/min` is five kelvin per minute).
+template <typename TextBase>
+class KXCOREUNITSUI_EXPORT BasicLinearSymbol : public virtual IParseSymbol, public TextBase {
+public:
+    ~BasicLinearSymbol() override;
+
+    int Format(double value, DimensionVector const& dims, wchar_t* buffer, unsigned long size,
+               UnitsFormatterImp const& formatter) const override;
+    int FormatNumber(int index, double value, DimensionVector const& dims, wchar_t* buffer, unsigned long size,
+                     UnitsFormatterImp const& formatter) const override;
+    int ParseNumber(ParseList& list, int form) const override;
+    int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
+
+    int GetUnitSymbol() const { return m_unitSymbol; }
+    int GetOperandUnitSymbol() const { return m_operandUnitSymbol; }
+
+protected:
+    BasicLinearSymbol(std::wstring text, int unitSymbol, int operandUnitSymbol, int flags);
+
+private:
+    int m_unitSymbol;
+    int m_operandUnitSymbol;
+};
+
+class KXCOREUNITSUI_EXPORT LinearSymbol : public BasicLinearSymbol<SimpleFormatSymbol> {
+public:
+    LinearSymbol(wchar_t const* text, int unitSymbol, int operandUnitSymbol, int flags);
+    ~LinearSymbol() override;
+};
+
+// ---------------------------------------------------------------------------------
+// Custom symbols: a base symbol's numbers with literal pieces around them.
+
+class KXCOREUNITSUI_EXPORT CustomSymbol : public virtual IParseSymbol, public virtual IFormatSymbol {
+public:
+    // `pieces[k]` stands before number position k, and a last extra piece after the
+    // last number; `indices[k]` is the base symbol's component written at position k.
+    CustomSymbol(IFormatSymbol const* base, std::vector<std::wstring> const& pieces,
+                 std::vector<int> const& indices, int form);
+    ~CustomSymbol() override;
+
+    // Drops the base symbol and both lists unless: one index per component of the
+    // base symbol's form, the indices a permutation, and as many pieces as indices or
+    // one more.
+    void Check();
+    bool IsValid() const { return m_base != nullptr; }
+    std::vector<std::wstring> const& GetStrings() const { return m_pieces; }
+    std::vector<int> const& GetIndices() const { return m_indices; }
+    int GetForm() const { return m_form; }
+
+    int Format(double value, DimensionVector const& dims, wchar_t* buffer, unsigned long size,
+               UnitsFormatterImp const& formatter) const override;
+    int FormatNumber(int index, double value, DimensionVector const& dims, wchar_t* buffer, unsigned long size,
+                     UnitsFormatterImp const& formatter) const override;
+    int ParseNumber(ParseList& list, int form) const override;
+    int GetMaxIndex(int form) const override;
+    int GenerateCustomSymbols(std::vector<CustomSymbol*>& out, std::vector<std::wstring> const& pieces,
+                              std::vector<int> const& indices) const override;
+    wchar_t const* GetSymbolName() const override;
+    int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
+
+private:
+    std::vector<int> m_indices;
+    std::vector<std::wstring> m_pieces;
+    IFormatSymbol const* m_base;
+    int m_form;
+};
+
+// ---------------------------------------------------------------------------------
+// Angles: degrees, minutes and seconds, and surveyor's bearings.
+
+// Writes an angle as degrees, minutes and seconds; how many of the three, and the
+// seconds' decimals, follow the formatter's precision P: 0 degrees, 1-2 minutes, 3-4
+// whole seconds, 5 and more seconds with P - 4 decimals. A bearing is written from
+// north or south toward east or west (`N 60°0' E`).
+template <typename GenericBase>
+class KXCOREUNITSUI_EXPORT BasicDegreePrimeDoublePrimeSymbol : public GenericBase {
+public:
+    ~BasicDegreePrimeDoublePrimeSymbol() override;
+
+    int Format(double value, DimensionVector const& dims, wchar_t* buffer, unsigned long size,
+               UnitsFormatterImp const& formatter) const override;
+    // Index 0 degrees, 1 minutes, 2 seconds, as Format writes them (0 for parts the
+    // precision leaves out); for a bearing, of the angle between the letters.
+    int FormatNumber(int index, double value, DimensionVector const& dims, wchar_t* buffer, unsigned long size,
+                     UnitsFormatterImp const& formatter) const override;
+    int ParseNumber(ParseList& list, int form) const override;
+    int GetMaxIndex(int form) const override;
+
+    bool IsBearing() const { return m_bearing; }
+    bool HasDegreeSign() const { return m_degreeSign; }
+
+protected:
+    BasicDegreePrimeDoublePrimeSymbol(std::wstring text, bool bearing, bool degreeSign);
+
+private:
+    bool m_bearing;
+    bool m_degreeSign;
+};
+
+class KXCOREUNITSUI_EXPORT DegreePrimeDoublePrimeSymbol : public BasicDegreePrimeDoublePrimeSymbol<GenericSymbol> {
+public:
+    DegreePrimeDoublePrimeSymbol(wchar_t const* text, bool bearing);
+    ~DegreePrimeDoublePrimeSymbol() override;
+};
+
+// The marks typed after numbers. Their meaning depends on the quantity being read:
+// in an angle (or a plain number: all dimensions 0) degrees, minutes and seconds; in a
+// length the prime is the foot and the double prime the inch; in a time minutes and
+// seconds. Each mark turns the numbers before it into one number in the next smaller
+// unit (flagged eNSCarried) for the next mark, or into the result when it is last.
+class KXCOREUNITSUI_EXPORT DegreeSymbol : public virtual IParseSymbol {
+public:
+    DegreeSymbol() = default;
+    ~DegreeSymbol() override;
+    int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
+};
+
+class KXCOREUNITSUI_EXPORT PrimeSymbol : public virtual IParseSymbol {
+public:
+    PrimeSymbol() = default;
+    ~PrimeSymbol() override;
+    int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
+};
+
+class KXCOREUNITSUI_EXPORT DoublePrimeSymbol : public virtual IParseSymbol {
+public:
+    DoublePrimeSymbol() = default;
+    ~DoublePrimeSymbol() override;
+    int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
+};
+
+// "d": the degree mark in an angle or a plain number, the day elsewhere.
+class KXCOREUNITSUI_EXPORT DSymbol : public virtual IParseSymbol {
+public:
+    DSymbol() = default;
+    ~DSymbol() override;
+    int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
+};
+
+// "g": the grad in an angle or a plain number, the gram elsewhere.
+class KXCOREUNITSUI_EXPORT GSymbol : public virtual IParseSymbol {
+public:
+    GSymbol() = default;
+    ~GSymbol() override;
+    int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
+};
+
+// The compass letters. In an angle they read a bearing (`N 45°30'15" E`) as an angle
+// counter-clockwise from east, or stand alone for a cardinal direction; elsewhere N,
+// S and W are the newton, the siemens and the watt.
+class KXCOREUNITSUI_EXPORT NorthSymbol : public virtual IParseSymbol {
+public:
+    NorthSymbol() = default;
+    ~NorthSymbol() override;
+    int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
+};
+
+class KXCOREUNITSUI_EXPORT SouthSymbol : public virtual IParseSymbol {
+public:
+    SouthSymbol() = default;
+    ~SouthSymbol() override;
+    int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
+};
+
+// Which letter opened the bearing that an E or W closes. The dictionary's E and W
+// have none; the opening N or S puts a new letter carrying it in their place, so the
+// shared symbols never change.
+enum class BearingReference { eNone, eFromNorth, eFromSouth };
+
+class KXCOREUNITSUI_EXPORT EastSymbol : public virtual IParseSymbol {
+public:
+    explicit EastSymbol(BearingReference reference = BearingReference::eNone);
+    ~EastSymbol() override;
+    int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
+    BearingReference GetReference() const { return m_reference; }
+
+private:
+    BearingReference m_reference;
+};
+
+class KXCOREUNITSUI_EXPORT WestSymbol : public virtual IParseSymbol {
+public:
+    explicit WestSymbol(BearingReference reference = BearingReference::eNone);
+    ~WestSymbol() override;
+    int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
+    BearingReference GetReference() const { return m_reference; }
+
+private:
+    BearingReference m_reference;
+};
+
+// ---------------------------------------------------------------------------------
+// Lengths as feet and inches.
+
+// Feet and inches (`5'-6 1/2"`), decimal or fractional inches, or inches alone with a
+// fraction. The value is rounded once in inches, to the display precision, before it
+// is split, so a rounding that reaches twelve inches carries into the feet.
+template <typename GenericBase>
+class KXCOREUNITSUI_EXPORT BasicPrimeDoublePrimeSymbol : public GenericBase {
+public:
+    ~BasicPrimeDoublePrimeSymbol() override;
+
+    // Returns the length written, without the terminator.
+    int Format(double value, DimensionVector const& dims, wchar_t* buffer, unsigned long size,
+               UnitsFormatterImp const& formatter) const override;
+    // Index 0 is the feet when there are feet; any other index the inches.
+    int FormatNumber(int index, double value, DimensionVector const& dims, wchar_t* buffer, unsigned long size,
+                     UnitsFormatterImp const& formatter) const override;
+    int ParseNumber(ParseList& list, int form) const override;
+    int GetMaxIndex(int form) const override;
+    int GenerateCustomSymbols(std::vector<CustomSymbol*>& out, std::vector<std::wstring> const& pieces,
+                              std::vector<int> const& indices) const override;
+
+    int GetSymbol() const { return m_symbol; }
+    bool ShowsFeet() const { return m_showFeet; }
+    bool IsFraction() const { return m_fraction; }
+    bool HasDash() const { return m_dash; }
+
+protected:
+    BasicPrimeDoublePrimeSymbol(std::wstring text, int symbol, bool showFeet, bool fraction, bool dash);
+
+private:
+    int m_unit;
+    bool m_showFeet;
+    bool m_fraction;
+    bool m_dash;
+    int m_symbol;
+};
+
+class KXCOREUNITSUI_EXPORT PrimeDoublePrimeSymbol : public BasicPrimeDoublePrimeSymbol<GenericSymbol> {
+public:
+    PrimeDoublePrimeSymbol(wchar_t const* text, int symbol, bool showFeet, bool fraction, bool dash);
+    ~PrimeDoublePrimeSymbol() override;
+};
+
+// A dash between feet and inches (`5' - 6"`), between whole inches and a fraction, or
+// between two units (`ft-lbf`, a product).
+class KXCOREUNITSUI_EXPORT DashSymbol : public virtual IParseSymbol {
+public:
+    DashSymbol() = default;
+    ~DashSymbol() override;
+    int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
+};
+
+// The templates are instantiated once, in the library, for each family.
+extern template class BasicGenericSymbol<SimpleFormatSymbol>;
+extern template class BasicGenericSymbolEx<GenericSymbol>;
+extern template class BasicLinearSymbol<SimpleFormatSymbol>;
+extern template class BasicDegreePrimeDoublePrimeSymbol<GenericSymbol>;
+extern template class BasicPrimeDoublePrimeSymbol<GenericSymbol>;
+
+}  // namespace kxnorth::platform::core::units
