@@ -2,6 +2,7 @@
 // default units and symbols, custom symbol strings, and the format and parse drivers.
 #pragma once
 
+#include <list>
 #include <map>
 #include <memory>
 #include <string>
@@ -15,6 +16,9 @@
 namespace kxnorth::platform::core::units {
 
 class CustomSymbol;
+class IParseSymbol;
+template <typename T>
+class UnitsOwnPtr;
 class UnitsDisplayNames;
 
 // Kinds of number tokens, stored in the number-token dictionary as kind + 1.
@@ -154,6 +158,7 @@ public:
 
 private:
     void AddToken(std::wstring const& text, NumberTokenKind kind);
+    bool Tokenize(wchar_t const* text, std::list<UnitsOwnPtr<IParseSymbol const>>& list) const;
     bool ParseCustom(wchar_t const* text, double& baseValue, int const (&dimensions)[kDimensionCount]) const;
 
     NumberSettings m_numbers;

@@ -123,13 +123,10 @@ bool UnitsFormatterImp::ParseCustom(wchar_t const* text, double& baseValue,
     return ResultValue(list, dimensions, baseValue);
 }
 
-int UnitsFormatterImp::Parse(wchar_t const* text, double& baseValue, int const (&dimensions)[kDimensionCount],
-                             int group) const {
-    if (text == nullptr) return 2;
-    if (!m_customSymbols.Empty() && ParseCustom(text, baseValue, dimensions)) return 0;
-
+// Cuts `text` into numbers and the longest parse symbols; false at a character that
+// starts neither.
+bool UnitsFormatterImp::Tokenize(wchar_t const* text, ParseList& list) const {
     UnitsUIConfig const* config = UnitsUIConfig::GetInstance();
-    ParseList list;
     for (std::size_t pos = 0; text[pos] != L'\0';) {
         double number = 0;
         int flags = 0;
@@ -141,22 +138,73 @@ int UnitsFormatterImp::Parse(wchar_t const* text, double& baseValue, int const (
         }
         unsigned long length = 0;
         IParseSymbol const* symbol = config->FindSymbol(text + pos, &length);
-        if (symbol == nullptr) return 2;
+        if (symbol == nullptr) return false;
         list.emplace_back(symbol, false);
         pos += length > 0 ? length : 1;
     }
-    if (IParseSymbol::Calculate(list, dimensions) != 0) {
-        if (list.empty()) return 2;
-        if (list.size() != 1 || dynamic_cast<NumberSymbol const*>(list.front().Get()) == nullptr) return 2;
+    return true;
+}
+
+namespace {
+
+template <typename T>
+bool Is(ParseList::const_iterator it, ParseList const& list) {
+    return it != list.end() && dynamic_cast<T const*>(it->Get()) != nullptr;
+}
+
+// Quantities in parentheses, "(2 ft)·(3 ft)": each "(number unit)" becomes one
+// operand of its value, and a leading 1 carries the result. False when the list holds
+// no such quantity, so the reading adds nothing to other inputs.
+bool ReadParenthesisedQuantities(ParseList& list) {
+    bool found = false;
+    for (auto it = list.begin(); it != list.end(); ++it) {
+        if (!Is<LeftParenthesisSymbol>(it, list)) continue;
+        auto number = std::next(it);
+        if (!Is<NumberSymbol>(number, list)) continue;
+        auto unit = std::next(number);
+        if (Is<SpaceSymbol>(unit, list)) ++unit;
+        if (!Is<OperandSymbol>(unit, list) || !Is<RightParenthesisSymbol>(std::next(unit), list)) continue;
+        UnitConverter const& converter = dynamic_cast<OperandSymbol const*>(unit->Get())->GetConverter();
+        double base = 0;
+        if (converter.ConvertToBase(&base, converter.GetDimTag(),
+                                    dynamic_cast<NumberSymbol const*>(number->Get())->GetNumber()) != 0) {
+            return false;
+        }
+        number->Reset(new GenericOperand(GenericConverter(base, converter.GetDimTag())), true);
+        list.erase(std::next(number), std::next(unit));
+        found = true;
+    }
+    if (found) list.emplace_front(new NumberSymbol(1.0, 0), true);
+    return found;
+}
+
+}  // namespace
+
+int UnitsFormatterImp::Parse(wchar_t const* text, double& baseValue, int const (&dimensions)[kDimensionCount],
+                             int group) const {
+    if (text == nullptr) return 2;
+    if (!m_customSymbols.Empty() && ParseCustom(text, baseValue, dimensions)) return 0;
+
+    ParseList list;
+    if (!Tokenize(text, list)) return 2;
+    if (IParseSymbol::Calculate(list, dimensions) == 0) return ResultValue(list, dimensions, baseValue) ? 0 : 2;
+    if (list.empty()) return 2;
+    if (list.size() == 1 && dynamic_cast<NumberSymbol const*>(list.front().Get()) != nullptr) {
         // A bare number is read in the default symbol of the quantity's group.
         int const g = group != 0 ? (group & kGroupMask) : UnitsConfig::GetInstance()->FindUnitGroup(dimensions);
-        auto const* unitSymbol =
-            dynamic_cast<IParseSymbol const*>(config->FindSymbol(MakeSymbol(g), *m_displayNames));
+        auto const* unitSymbol = dynamic_cast<IParseSymbol const*>(
+            UnitsUIConfig::GetInstance()->FindSymbol(MakeSymbol(g), *m_displayNames));
         if (unitSymbol == nullptr) return 1;
         list.emplace_back(unitSymbol, false);
         if (IParseSymbol::Calculate(list, dimensions) != 0) return 2;
+        return ResultValue(list, dimensions, baseValue) ? 0 : 2;
     }
-    return ResultValue(list, dimensions, baseValue) ? 0 : 2;
+    // The list was consumed by the failed evaluation; read the text once more with
+    // quantities in parentheses as operands.
+    ParseList quantities;
+    if (!Tokenize(text, quantities) || !ReadParenthesisedQuantities(quantities)) return 2;
+    if (IParseSymbol::Calculate(quantities, dimensions) != 0) return 2;
+    return ResultValue(quantities, dimensions, baseValue) ? 0 : 2;
 }
 
 // --- Custom symbol strings -------------------------------------------------------

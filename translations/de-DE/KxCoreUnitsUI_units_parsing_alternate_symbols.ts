@@ -4,6 +4,10 @@
 <context>
     <name>UnitSymbol_Acceleration</name>
     <message>
+        <source>eSftPers2_Alternate2</source>
+        <translation>ft/s^2</translation>
+    </message>
+    <message>
         <source>eSmPers2_Alternate1</source>
         <translation>m/s2</translation>
     </message>
@@ -22,6 +26,22 @@
 </context>
 <context>
     <name>UnitSymbol_AirflowDividedByVolume</name>
+    <message>
+        <source>eSm3Persm3_Alternate1</source>
+        <translation>m^3/(s·m^3)</translation>
+    </message>
+    <message>
+        <source>eSft3Perminft3_Alternate1</source>
+        <translation>ft^3/(min·ft^3)</translation>
+    </message>
+    <message>
+        <source>eScfmPerft3_Alternate2</source>
+        <translation>cfm/ft^3</translation>
+    </message>
+    <message>
+        <source>eSLPersm3_Alternate1</source>
+        <translation>l/(s·m^3)</translation>
+    </message>
     <message>
         <source>eScfmPerft3_Alternate1</source>
         <translation>cfm/ft3</translation>
@@ -283,6 +303,14 @@
 <context>
     <name>UnitSymbol_AreaDensity</name>
     <message>
+        <source>eSgPerm2_Alternate2</source>
+        <translation>g/m^2</translation>
+    </message>
+    <message>
+        <source>eSgPerin2_Alternate2</source>
+        <translation>g/in^2</translation>
+    </message>
+    <message>
         <source>eSgPerm2_Alternate1</source>
         <translation>g/m2</translation>
     </message>
@@ -293,6 +321,30 @@
 </context>
 <context>
     <name>UnitSymbol_AreaDividedByPower</name>
+    <message>
+        <source>eSm2PerW_Alternate2</source>
+        <translation>m^2/W</translation>
+    </message>
+    <message>
+        <source>eSm2PerkW_Alternate2</source>
+        <translation>m^2/kW</translation>
+    </message>
+    <message>
+        <source>eSft2PerkBTUPerh_Alternate2</source>
+        <translation>ft^2/(kBTU/h)</translation>
+    </message>
+    <message>
+        <source>eSft2PerkBTUPerhr_Alternate2</source>
+        <translation>ft^2/(kBTU/hr)</translation>
+    </message>
+    <message>
+        <source>eSft2PerkBtuPerh_Alternate2</source>
+        <translation>ft^2/(kBtu/h)</translation>
+    </message>
+    <message>
+        <source>eSft2PerkBtuPerhr_Alternate2</source>
+        <translation>ft^2/(kBtu/hr)</translation>
+    </message>
     <message>
         <source>eSm2PerW_Alternate1</source>
         <translation>m2/W</translation>
@@ -320,6 +372,30 @@
 </context>
 <context>
     <name>UnitSymbol_AreaForceScale</name>
+    <message>
+        <source>eSm3PerN_Alternate2</source>
+        <translation>m^3/N</translation>
+    </message>
+    <message>
+        <source>eSm3PerkN_Alternate2</source>
+        <translation>m^3/kN</translation>
+    </message>
+    <message>
+        <source>eSft3Perkip_Alternate2</source>
+        <translation>ft^3/kip</translation>
+    </message>
+    <message>
+        <source>eSft3Perkipf_Alternate2</source>
+        <translation>ft^3/kipf</translation>
+    </message>
+    <message>
+        <source>eSft3Perlbf_Alternate2</source>
+        <translation>ft^3/klbf</translation>
+    </message>
+    <message>
+        <source>eSft3Perklb_Alternate2</source>
+        <translation>ft^3/klb</translation>
+    </message>
     <message>
         <source>eSm3PerN_Alternate1</source>
         <translation>m3/N</translation>
@@ -415,6 +491,18 @@
 </context>
 <context>
     <name>UnitSymbol_Density</name>
+    <message>
+        <source>eSkmPerm3_Alternate3</source>
+        <translation>kg/m^3</translation>
+    </message>
+    <message>
+        <source>eSgPerCM3_Alternate3</source>
+        <translation>g/cm^3</translation>
+    </message>
+    <message>
+        <source>eSNS2PerMM4_Alternate1</source>
+        <translation>N·s^2/mm⁴</translation>
+    </message>
     <message>
         <source>eSkmPerm3_Alternate1</source>
         <translation>kg/m3</translation>
@@ -683,6 +771,26 @@
 <context>
     <name>UnitSymbol_HeatTransferCoefficient</name>
     <message>
+        <source>eSWPerm2K_Alternate4</source>
+        <translation>W/(m^2·K)</translation>
+    </message>
+    <message>
+        <source>eSBTUPerhft2DegreeF_Alternate1</source>
+        <translation>BTU/(h·ft^2·°F)</translation>
+    </message>
+    <message>
+        <source>eSBTUPerhrft2DegreeF_Alternate1</source>
+        <translation>BTU/(hr·ft^2·°F)</translation>
+    </message>
+    <message>
+        <source>eSBtuPerhft2DegreeF_Alternate1</source>
+        <translation>Btu/(h·ft^2·°F)</translation>
+    </message>
+    <message>
+        <source>eSBtuPerhrft2DegreeF_Alternate1</source>
+        <translation>Btu/(hr·ft^2·°F)</translation>
+    </message>
+    <message>
         <source>eSWPerm2K_Alternate1</source>
         <translation>W/m²K</translation>
     </message>
@@ -697,6 +805,10 @@
 </context>
 <context>
     <name>UnitSymbol_Illuminance</name>
+    <message>
+        <source>eSlmPerft2_Alternate2</source>
+        <translation>lm/ft^2</translation>
+    </message>
     <message>
         <source>eSlx_I_Alternate1</source>
         <translation>Lux</translation>
@@ -914,6 +1026,30 @@
 <context>
     <name>UnitSymbol_LinearForceScale</name>
     <message>
+        <source>eSm2PerN_Alternate2</source>
+        <translation>m^2/N</translation>
+    </message>
+    <message>
+        <source>eSm2PerkN_Alternate2</source>
+        <translation>m^2/kN</translation>
+    </message>
+    <message>
+        <source>eSft2Perkip_Alternate2</source>
+        <translation>ft^2/kip</translation>
+    </message>
+    <message>
+        <source>eSft2Perkipf_Alternate2</source>
+        <translation>ft^2/kipf</translation>
+    </message>
+    <message>
+        <source>eSft2Perklbf_Alternate2</source>
+        <translation>ft^2/klbf</translation>
+    </message>
+    <message>
+        <source>eSft2Perklb_Alternate2</source>
+        <translation>ft^2/klb</translation>
+    </message>
+    <message>
         <source>eSm2PerN_Alternate1</source>
         <translation>m2/N</translation>
     </message>
@@ -951,6 +1087,14 @@
 </context>
 <context>
     <name>UnitSymbol_Luminance</name>
+    <message>
+        <source>eScdPerm2_Alternate2</source>
+        <translation>cd/m^2</translation>
+    </message>
+    <message>
+        <source>eScdPerft2_Alternate2</source>
+        <translation>cd/ft^2</translation>
+    </message>
     <message>
         <source>eScdPerm2_Alternate1</source>
         <translation>cd/m2</translation>
@@ -1113,6 +1257,38 @@
 <context>
     <name>UnitSymbol_PowerPerUnitOfArea</name>
     <message>
+        <source>eSWPerm2_Alternate2</source>
+        <translation>W/m^2</translation>
+    </message>
+    <message>
+        <source>eSkWPerm2_Alternate2</source>
+        <translation>kW/m^2</translation>
+    </message>
+    <message>
+        <source>eSkWPerft2_Alternate2</source>
+        <translation>kW/ft^2</translation>
+    </message>
+    <message>
+        <source>eSWPerft2_Alternate2</source>
+        <translation>W/ft^2</translation>
+    </message>
+    <message>
+        <source>eSBTUPerhPerft2_Alternate2</source>
+        <translation>BTU/h/ft^2</translation>
+    </message>
+    <message>
+        <source>eSBTUPerhrPerft2_Alternate2</source>
+        <translation>BTU/hr/ft^2</translation>
+    </message>
+    <message>
+        <source>eSBtuPerhPerft2_Alternate2</source>
+        <translation>Btu/h/ft^2</translation>
+    </message>
+    <message>
+        <source>eSBtuPerhrPerft2_Alternate2</source>
+        <translation>Btu/hr/ft^2</translation>
+    </message>
+    <message>
         <source>eSWPerm2_Alternate1</source>
         <translation>W/m2</translation>
     </message>
@@ -1148,6 +1324,30 @@
 <context>
     <name>UnitSymbol_PowerPerUnitOfVolume</name>
     <message>
+        <source>eSWPerm3_Alternate2</source>
+        <translation>W/m^3</translation>
+    </message>
+    <message>
+        <source>eSWPerft3_Alternate2</source>
+        <translation>W/ft^3</translation>
+    </message>
+    <message>
+        <source>eSBTUPerhft3_Alternate1</source>
+        <translation>BTU/(h·ft^3)</translation>
+    </message>
+    <message>
+        <source>eSBTUPerhrft3_Alternate1</source>
+        <translation>BTU/(hr·ft^3)</translation>
+    </message>
+    <message>
+        <source>eSBtuPerhft3_Alternate1</source>
+        <translation>Btu/(h·ft^3)</translation>
+    </message>
+    <message>
+        <source>eSBtuPerhrft3_Alternate1</source>
+        <translation>Btu/(hr·ft^3)</translation>
+    </message>
+    <message>
         <source>eSWPerm3_Alternate1</source>
         <translation>W/m3</translation>
     </message>
@@ -1158,6 +1358,46 @@
 </context>
 <context>
     <name>UnitSymbol_Pressure</name>
+    <message>
+        <source>eSkgPercm2_Alternate2</source>
+        <translation>kg/cm^2</translation>
+    </message>
+    <message>
+        <source>eSlbfPerin2_Alternate2</source>
+        <translation>lbf/in^2</translation>
+    </message>
+    <message>
+        <source>eSNPermm2_Alternate2</source>
+        <translation>N/mm^2</translation>
+    </message>
+    <message>
+        <source>eSNPerm2_Alternate2</source>
+        <translation>N/m^2</translation>
+    </message>
+    <message>
+        <source>eSdaNPermm2_Alternate2</source>
+        <translation>daN/mm^2</translation>
+    </message>
+    <message>
+        <source>eSdaNPerm2_Alternate2</source>
+        <translation>daN/m^2</translation>
+    </message>
+    <message>
+        <source>eSkNPerm2_Alternate2</source>
+        <translation>kN/m^2</translation>
+    </message>
+    <message>
+        <source>eSMNPerm2_Alternate2</source>
+        <translation>MN/m^2</translation>
+    </message>
+    <message>
+        <source>eSDynePerCM2_Alternate2</source>
+        <translation>dyn/cm^2</translation>
+    </message>
+    <message>
+        <source>eSNPerMicrometer2_Alternate3</source>
+        <translation>N/µm^2</translation>
+    </message>
     <message>
         <source>eSbarabs_Alternate1</source>
         <translation>bar(a)</translation>
@@ -1250,6 +1490,14 @@
 <context>
     <name>UnitSymbol_SpecificHeat</name>
     <message>
+        <source>eSMM2PerSec2DegreeC_Alternate1</source>
+        <translation>mm^2/(s^2·°C)</translation>
+    </message>
+    <message>
+        <source>eSMicrometer2PerS2DegreeC_Alternate2</source>
+        <translation>µm^2/(s^2·°C)</translation>
+    </message>
+    <message>
         <source>eSMicrometer2PerS2DegreeC_Alternate1</source>
         <translation>μm²/(s²·°C)</translation>
     </message>
@@ -1302,6 +1550,10 @@
 </context>
 <context>
     <name>UnitSymbol_ThermalConductivity</name>
+    <message>
+        <source>eSbtuInchPerFt2hrDegreeF_Alternate1</source>
+        <translation>BTU·in/(ft^2·hr·°F)</translation>
+    </message>
     <message>
         <source>eSWPerMDegreeK_Alternate1</source>
         <translation>W/mK</translation>
@@ -1444,6 +1696,14 @@
 </context>
 <context>
     <name>UnitSymbol_UnitWeight</name>
+    <message>
+        <source>eSNPerm3_Alternate2</source>
+        <translation>N/m^3</translation>
+    </message>
+    <message>
+        <source>eSkNPerm3_Alternate2</source>
+        <translation>kN/m^3</translation>
+    </message>
     <message>
         <source>eSNPerm3_Alternate1</source>
         <translation>N/m3</translation>
@@ -1829,6 +2089,70 @@
 <context>
     <name>UnitSymbol_VolumetricFlowRate</name>
     <message>
+        <source>eSm3Pers_Alternate4</source>
+        <translation>m^3/s</translation>
+    </message>
+    <message>
+        <source>eScm3Permin_Alternate3</source>
+        <translation>cm^3/min</translation>
+    </message>
+    <message>
+        <source>eSft3Perh_Alternate2</source>
+        <translation>ft^3/h</translation>
+    </message>
+    <message>
+        <source>eSft3Perhr_Alternate2</source>
+        <translation>ft^3/hr</translation>
+    </message>
+    <message>
+        <source>eSft3Permin_Alternate2</source>
+        <translation>ft^3/min</translation>
+    </message>
+    <message>
+        <source>eSft3Pers_Alternate2</source>
+        <translation>ft^3/s</translation>
+    </message>
+    <message>
+        <source>eSin3Permin_Alternate2</source>
+        <translation>in^3/min</translation>
+    </message>
+    <message>
+        <source>eSm3Perh_Alternate5</source>
+        <translation>m^3/h</translation>
+    </message>
+    <message>
+        <source>eSm3Perhr_Alternate2</source>
+        <translation>m^3/hr</translation>
+    </message>
+    <message>
+        <source>eSm3Permin_Alternate3</source>
+        <translation>m^3/min</translation>
+    </message>
+    <message>
+        <source>eScm3Pers_Alternate2</source>
+        <translation>cm^3/s</translation>
+    </message>
+    <message>
+        <source>eScm3Perh_Alternate2</source>
+        <translation>cm^3/h</translation>
+    </message>
+    <message>
+        <source>eScm3Perhr_Alternate2</source>
+        <translation>cm^3/hr</translation>
+    </message>
+    <message>
+        <source>eSft3Perd_Alternate2</source>
+        <translation>ft^3/d</translation>
+    </message>
+    <message>
+        <source>eSm3Perd_Alternate4</source>
+        <translation>m^3/d</translation>
+    </message>
+    <message>
+        <source>eSyd3Permin_Alternate2</source>
+        <translation>yd^3/min</translation>
+    </message>
+    <message>
         <source>eSm3Pers_Alternate1</source>
         <translation>m3/s</translation>
     </message>
@@ -1971,6 +2295,53 @@
     <message>
         <source>eSyd3Permin_Alternate1</source>
         <translation>yd3/min</translation>
+    </message>
+</context>
+<context>
+    <name>UnitSymbol_AirflowDensity</name>
+    <message>
+        <source>eSm3Persm2_Alternate1</source>
+        <translation>m^3/(s·m^2)</translation>
+    </message>
+    <message>
+        <source>eSft3Perminft2_Alternate1</source>
+        <translation>ft^3/(min·ft^2)</translation>
+    </message>
+    <message>
+        <source>eSLPersm2_Alternate1</source>
+        <translation>l/(s·m^2)</translation>
+    </message>
+</context>
+<context>
+    <name>UnitSymbol_AirflowDividedByPower</name>
+    <message>
+        <source>eSm3PersW_Alternate1</source>
+        <translation>m^3/(s·W)</translation>
+    </message>
+</context>
+<context>
+    <name>UnitSymbol_LuminousEmittance</name>
+    <message>
+        <source>eSlx_LE_Alternate1</source>
+        <translation>lm/m^2</translation>
+    </message>
+</context>
+<context>
+    <name>UnitSymbol_MomentScale</name>
+    <message>
+        <source>eSs2Permkg_Alternate1</source>
+        <translation>s^2/(m·kg)</translation>
+    </message>
+</context>
+<context>
+    <name>UnitSymbol_Permeability</name>
+    <message>
+        <source>eSNanogramPerPaSM2_Alternate1</source>
+        <translation>ng/(Pa·s·m^2)</translation>
+    </message>
+    <message>
+        <source>eSGrainPerFt2HrInHg_Alternate1</source>
+        <translation>gr/(ft^2·h·inHg)</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,14 @@
 <context>
     <name>UnitSymbol_Acceleration</name>
     <message>
+        <source>eSmPers2_Alternate1</source>
+        <translation>m/s^2</translation>
+    </message>
+    <message>
+        <source>eSftPers2_Alternate1</source>
+        <translation>ft/s^2</translation>
+    </message>
+    <message>
         <source>eSMeterPerSecondSquared_Alternate1</source>
         <translation>meters per second squared</translation>
     </message>
@@ -50,6 +58,18 @@
 </context>
 <context>
     <name>UnitSymbol_AirflowDensity</name>
+    <message>
+        <source>eSm3Persm2_Alternate1</source>
+        <translation>m^3/(s·m^2)</translation>
+    </message>
+    <message>
+        <source>eSft3Perminft2_Alternate1</source>
+        <translation>ft^3/(min·ft^2)</translation>
+    </message>
+    <message>
+        <source>eSLPersm2_Alternate1</source>
+        <translation>L/(s·m^2)</translation>
+    </message>
     <message>
         <source>eSCubicMeterPerSecondSquareMeter_Alternate1</source>
         <translation>cubic meters per second square meter</translation>
@@ -130,6 +150,10 @@
 <context>
     <name>UnitSymbol_AirflowDividedByPower</name>
     <message>
+        <source>eSm3PersW_Alternate1</source>
+        <translation>m^3/(s·W)</translation>
+    </message>
+    <message>
         <source>eSCubicMeterPerSecondWatt_Alternate1</source>
         <translation>cubic meters per second watt</translation>
     </message>
@@ -196,6 +220,22 @@
 </context>
 <context>
     <name>UnitSymbol_AirflowDividedByVolume</name>
+    <message>
+        <source>eSm3Persm3_Alternate1</source>
+        <translation>m^3/(s·m^3)</translation>
+    </message>
+    <message>
+        <source>eSft3Perminft3_Alternate1</source>
+        <translation>ft^3/(min·ft^3)</translation>
+    </message>
+    <message>
+        <source>eScfmPerft3_Alternate1</source>
+        <translation>cfm/ft^3</translation>
+    </message>
+    <message>
+        <source>eSLPersm3_Alternate1</source>
+        <translation>L/(s·m^3)</translation>
+    </message>
     <message>
         <source>eSCubicMeterPerSecondCubicMeter_Alternate1</source>
         <translation>cubic meters per second cubic meter</translation>
@@ -949,6 +989,14 @@
 <context>
     <name>UnitSymbol_AreaDensity</name>
     <message>
+        <source>eSgPerm2_Alternate1</source>
+        <translation>g/m^2</translation>
+    </message>
+    <message>
+        <source>eSgPerin2_Alternate1</source>
+        <translation>g/in^2</translation>
+    </message>
+    <message>
         <source>eSGramPerSquareMeter_Alternate1</source>
         <translation>grams per square meter</translation>
     </message>
@@ -979,6 +1027,30 @@
 </context>
 <context>
     <name>UnitSymbol_AreaDividedByPower</name>
+    <message>
+        <source>eSm2PerW_Alternate1</source>
+        <translation>m^2/W</translation>
+    </message>
+    <message>
+        <source>eSm2PerkW_Alternate1</source>
+        <translation>m^2/kW</translation>
+    </message>
+    <message>
+        <source>eSft2PerkBTUPerh_Alternate1</source>
+        <translation>ft^2/(kBTU/h)</translation>
+    </message>
+    <message>
+        <source>eSft2PerkBTUPerhr_Alternate1</source>
+        <translation>ft^2/(kBTU/hr)</translation>
+    </message>
+    <message>
+        <source>eSft2PerkBtuPerh_Alternate1</source>
+        <translation>ft^2/(kBtu/h)</translation>
+    </message>
+    <message>
+        <source>eSft2PerkBtuPerhr_Alternate1</source>
+        <translation>ft^2/(kBtu/hr)</translation>
+    </message>
     <message>
         <source>eSSquareMeterPerWatt_Alternate1</source>
         <translation>square meters per watt</translation>
@@ -1050,6 +1122,30 @@
 </context>
 <context>
     <name>UnitSymbol_AreaForceScale</name>
+    <message>
+        <source>eSm3PerN_Alternate1</source>
+        <translation>m^3/N</translation>
+    </message>
+    <message>
+        <source>eSm3PerkN_Alternate1</source>
+        <translation>m^3/kN</translation>
+    </message>
+    <message>
+        <source>eSft3Perkip_Alternate1</source>
+        <translation>ft^3/kip</translation>
+    </message>
+    <message>
+        <source>eSft3Perkipf_Alternate1</source>
+        <translation>ft^3/kipf</translation>
+    </message>
+    <message>
+        <source>eSft3Perlbf_Alternate1</source>
+        <translation>ft^3/klbf</translation>
+    </message>
+    <message>
+        <source>eSft3Perklb_Alternate1</source>
+        <translation>ft^3/klb</translation>
+    </message>
     <message>
         <source>eSCubicMeterPerNewton_Alternate1</source>
         <translation>cubic meters per newton</translation>
@@ -1592,6 +1688,18 @@
 </context>
 <context>
     <name>UnitSymbol_Density</name>
+    <message>
+        <source>eSkmPerm3_Alternate1</source>
+        <translation>kg/m^3</translation>
+    </message>
+    <message>
+        <source>eSgPerCM3_Alternate1</source>
+        <translation>g/cm^3</translation>
+    </message>
+    <message>
+        <source>eSNS2PerMM4_Alternate1</source>
+        <translation>N·s^2/mm⁴</translation>
+    </message>
     <message>
         <source>eSKilogramPerCubicMeter_Alternate1</source>
         <translation>kilograms per cubic meter</translation>
@@ -2935,6 +3043,26 @@
 <context>
     <name>UnitSymbol_HeatTransferCoefficient</name>
     <message>
+        <source>eSWPerm2K_Alternate1</source>
+        <translation>W/(m^2·K)</translation>
+    </message>
+    <message>
+        <source>eSBTUPerhft2DegreeF_Alternate1</source>
+        <translation>BTU/(h·ft^2·°F)</translation>
+    </message>
+    <message>
+        <source>eSBTUPerhrft2DegreeF_Alternate1</source>
+        <translation>BTU/(hr·ft^2·°F)</translation>
+    </message>
+    <message>
+        <source>eSBtuPerhft2DegreeF_Alternate1</source>
+        <translation>Btu/(h·ft^2·°F)</translation>
+    </message>
+    <message>
+        <source>eSBtuPerhrft2DegreeF_Alternate1</source>
+        <translation>Btu/(hr·ft^2·°F)</translation>
+    </message>
+    <message>
         <source>eSWattPerSquareMeterKelvin_Alternate1</source>
         <translation>watts per square meter kelvin</translation>
     </message>
@@ -3005,6 +3133,10 @@
 </context>
 <context>
     <name>UnitSymbol_Illuminance</name>
+    <message>
+        <source>eSlmPerft2_Alternate1</source>
+        <translation>lm/ft^2</translation>
+    </message>
     <message>
         <source>eSLuxIlluminance_Alternate1</source>
         <translation>lux</translation>
@@ -3817,6 +3949,30 @@
 <context>
     <name>UnitSymbol_LinearForceScale</name>
     <message>
+        <source>eSm2PerN_Alternate1</source>
+        <translation>m^2/N</translation>
+    </message>
+    <message>
+        <source>eSm2PerkN_Alternate1</source>
+        <translation>m^2/kN</translation>
+    </message>
+    <message>
+        <source>eSft2Perkip_Alternate1</source>
+        <translation>ft^2/kip</translation>
+    </message>
+    <message>
+        <source>eSft2Perkipf_Alternate1</source>
+        <translation>ft^2/kipf</translation>
+    </message>
+    <message>
+        <source>eSft2Perklbf_Alternate1</source>
+        <translation>ft^2/klbf</translation>
+    </message>
+    <message>
+        <source>eSft2Perklb_Alternate1</source>
+        <translation>ft^2/klb</translation>
+    </message>
+    <message>
         <source>eSSquareMeterPerNewton_Alternate1</source>
         <translation>square meters per newton</translation>
     </message>
@@ -4017,6 +4173,14 @@
 </context>
 <context>
     <name>UnitSymbol_Luminance</name>
+    <message>
+        <source>eScdPerm2_Alternate1</source>
+        <translation>cd/m^2</translation>
+    </message>
+    <message>
+        <source>eScdPerft2_Alternate1</source>
+        <translation>cd/ft^2</translation>
+    </message>
     <message>
         <source>eSCandelaPerSquareMeter_Alternate1</source>
         <translation>candelas per square meter</translation>
@@ -4628,6 +4792,10 @@
 <context>
     <name>UnitSymbol_MomentScale</name>
     <message>
+        <source>eSs2Permkg_Alternate1</source>
+        <translation>s^2/(m·kg)</translation>
+    </message>
+    <message>
         <source>eSSquareSecondPerMeterKilogram_Alternate1</source>
         <translation>square seconds per meter kilogram</translation>
     </message>
@@ -4673,6 +4841,14 @@
 </context>
 <context>
     <name>UnitSymbol_Permeability</name>
+    <message>
+        <source>eSNanogramPerPaSM2_Alternate1</source>
+        <translation>ng/(Pa·s·m^2)</translation>
+    </message>
+    <message>
+        <source>eSGrainPerFt2HrInHg_Alternate1</source>
+        <translation>gr/(ft^2·h·inHg)</translation>
+    </message>
     <message>
         <source>eSNanogramPerPascalSecondSquareMeter_Alternate1</source>
         <translation>nanograms per pascal second square meter</translation>
@@ -4968,6 +5144,38 @@
 <context>
     <name>UnitSymbol_PowerPerUnitOfArea</name>
     <message>
+        <source>eSWPerm2_Alternate1</source>
+        <translation>W/m^2</translation>
+    </message>
+    <message>
+        <source>eSkWPerm2_Alternate1</source>
+        <translation>kW/m^2</translation>
+    </message>
+    <message>
+        <source>eSkWPerft2_Alternate1</source>
+        <translation>kW/ft^2</translation>
+    </message>
+    <message>
+        <source>eSWPerft2_Alternate1</source>
+        <translation>W/ft^2</translation>
+    </message>
+    <message>
+        <source>eSBTUPerhPerft2_Alternate1</source>
+        <translation>BTU/h/ft^2</translation>
+    </message>
+    <message>
+        <source>eSBTUPerhrPerft2_Alternate1</source>
+        <translation>BTU/hr/ft^2</translation>
+    </message>
+    <message>
+        <source>eSBtuPerhPerft2_Alternate1</source>
+        <translation>Btu/h/ft^2</translation>
+    </message>
+    <message>
+        <source>eSBtuPerhrPerft2_Alternate1</source>
+        <translation>Btu/hr/ft^2</translation>
+    </message>
+    <message>
         <source>eSWattPerSquareMeter_Alternate1</source>
         <translation>watts per square meter</translation>
     </message>
@@ -5050,6 +5258,30 @@
 <context>
     <name>UnitSymbol_PowerPerUnitOfVolume</name>
     <message>
+        <source>eSWPerm3_Alternate1</source>
+        <translation>W/m^3</translation>
+    </message>
+    <message>
+        <source>eSWPerft3_Alternate1</source>
+        <translation>W/ft^3</translation>
+    </message>
+    <message>
+        <source>eSBTUPerhft3_Alternate1</source>
+        <translation>BTU/(h·ft^3)</translation>
+    </message>
+    <message>
+        <source>eSBTUPerhrft3_Alternate1</source>
+        <translation>BTU/(hr·ft^3)</translation>
+    </message>
+    <message>
+        <source>eSBtuPerhft3_Alternate1</source>
+        <translation>Btu/(h·ft^3)</translation>
+    </message>
+    <message>
+        <source>eSBtuPerhrft3_Alternate1</source>
+        <translation>Btu/(hr·ft^3)</translation>
+    </message>
+    <message>
         <source>eSWattPerCubicMeter_Alternate1</source>
         <translation>watts per cubic meter</translation>
     </message>
@@ -5096,6 +5328,46 @@
 </context>
 <context>
     <name>UnitSymbol_Pressure</name>
+    <message>
+        <source>eSkgPercm2_Alternate1</source>
+        <translation>kg/cm^2</translation>
+    </message>
+    <message>
+        <source>eSlbfPerin2_Alternate1</source>
+        <translation>lbf/in^2</translation>
+    </message>
+    <message>
+        <source>eSNPermm2_Alternate1</source>
+        <translation>N/mm^2</translation>
+    </message>
+    <message>
+        <source>eSNPerm2_Alternate1</source>
+        <translation>N/m^2</translation>
+    </message>
+    <message>
+        <source>eSdaNPermm2_Alternate1</source>
+        <translation>daN/mm^2</translation>
+    </message>
+    <message>
+        <source>eSdaNPerm2_Alternate1</source>
+        <translation>daN/m^2</translation>
+    </message>
+    <message>
+        <source>eSkNPerm2_Alternate1</source>
+        <translation>kN/m^2</translation>
+    </message>
+    <message>
+        <source>eSMNPerm2_Alternate1</source>
+        <translation>MN/m^2</translation>
+    </message>
+    <message>
+        <source>eSDynePerCM2_Alternate1</source>
+        <translation>dyn/cm^2</translation>
+    </message>
+    <message>
+        <source>eSNPerMicrometer2_Alternate1</source>
+        <translation>N/µm^2</translation>
+    </message>
     <message>
         <source>eSBar_Alternate1</source>
         <translation>bars</translation>
@@ -5861,6 +6133,14 @@
 <context>
     <name>UnitSymbol_SpecificHeat</name>
     <message>
+        <source>eSMM2PerSec2DegreeC_Alternate1</source>
+        <translation>mm^2/(s^2·°C)</translation>
+    </message>
+    <message>
+        <source>eSMicrometer2PerS2DegreeC_Alternate1</source>
+        <translation>µm^2/(s^2·°C)</translation>
+    </message>
+    <message>
         <source>eSJoulePerGramCelsius_Alternate1</source>
         <translation>joules per gram celsius</translation>
     </message>
@@ -6208,6 +6488,10 @@
 </context>
 <context>
     <name>UnitSymbol_ThermalConductivity</name>
+    <message>
+        <source>eSbtuInchPerFt2hrDegreeF_Alternate1</source>
+        <translation>BTU·in/(ft^2·hr·°F)</translation>
+    </message>
     <message>
         <source>eSWattPerMeterKelvin_Alternate1</source>
         <translation>watts per meter kelvin</translation>
@@ -6817,6 +7101,14 @@
 </context>
 <context>
     <name>UnitSymbol_UnitWeight</name>
+    <message>
+        <source>eSNPerm3_Alternate1</source>
+        <translation>N/m^3</translation>
+    </message>
+    <message>
+        <source>eSkNPerm3_Alternate1</source>
+        <translation>kN/m^3</translation>
+    </message>
     <message>
         <source>eSNewtonPerCubicMeter_Alternate1</source>
         <translation>newtons per cubic meter</translation>
@@ -8194,6 +8486,70 @@
 <context>
     <name>UnitSymbol_VolumetricFlowRate</name>
     <message>
+        <source>eSm3Pers_Alternate1</source>
+        <translation>m^3/s</translation>
+    </message>
+    <message>
+        <source>eScm3Permin_Alternate1</source>
+        <translation>cm^3/min</translation>
+    </message>
+    <message>
+        <source>eSft3Perh_Alternate1</source>
+        <translation>ft^3/h</translation>
+    </message>
+    <message>
+        <source>eSft3Perhr_Alternate1</source>
+        <translation>ft^3/hr</translation>
+    </message>
+    <message>
+        <source>eSft3Permin_Alternate1</source>
+        <translation>ft^3/min</translation>
+    </message>
+    <message>
+        <source>eSft3Pers_Alternate1</source>
+        <translation>ft^3/s</translation>
+    </message>
+    <message>
+        <source>eSin3Permin_Alternate1</source>
+        <translation>in^3/min</translation>
+    </message>
+    <message>
+        <source>eSm3Perh_Alternate1</source>
+        <translation>m^3/h</translation>
+    </message>
+    <message>
+        <source>eSm3Perhr_Alternate1</source>
+        <translation>m^3/hr</translation>
+    </message>
+    <message>
+        <source>eSm3Permin_Alternate1</source>
+        <translation>m^3/min</translation>
+    </message>
+    <message>
+        <source>eScm3Pers_Alternate1</source>
+        <translation>cm^3/s</translation>
+    </message>
+    <message>
+        <source>eScm3Perh_Alternate1</source>
+        <translation>cm^3/h</translation>
+    </message>
+    <message>
+        <source>eScm3Perhr_Alternate1</source>
+        <translation>cm^3/hr</translation>
+    </message>
+    <message>
+        <source>eSft3Perd_Alternate1</source>
+        <translation>ft^3/d</translation>
+    </message>
+    <message>
+        <source>eSm3Perd_Alternate1</source>
+        <translation>m^3/d</translation>
+    </message>
+    <message>
+        <source>eSyd3Permin_Alternate1</source>
+        <translation>yd^3/min</translation>
+    </message>
+    <message>
         <source>eSCubicMeterPerSecond_Alternate1</source>
         <translation>cubic meters per second</translation>
     </message>
@@ -8728,6 +9084,13 @@
     <message>
         <source>eSCubicSurveyFootPerSecond_Alternate1</source>
         <translation>cubic survey feet per second</translation>
+    </message>
+</context>
+<context>
+    <name>UnitSymbol_LuminousEmittance</name>
+    <message>
+        <source>eSlx_LE_Alternate1</source>
+        <translation>lm/m^2</translation>
     </message>
 </context>
 </TS>

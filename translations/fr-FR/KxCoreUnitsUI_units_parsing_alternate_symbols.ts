@@ -4,6 +4,14 @@
 <context>
     <name>UnitSymbol_Acceleration</name>
     <message>
+        <source>eSmPers2_Alternate2</source>
+        <translation>m/s^2</translation>
+    </message>
+    <message>
+        <source>eSftPers2_Alternate3</source>
+        <translation>pi/s^2</translation>
+    </message>
+    <message>
         <source>eSMeterPerSecondSquared_Alternate1</source>
         <translation>mètres par seconde carrée</translation>
     </message>
@@ -55,6 +63,18 @@
 <context>
     <name>UnitSymbol_AirflowDensity</name>
     <message>
+        <source>eSm3Persm2_Alternate1</source>
+        <translation>m^3/(s·m^2)</translation>
+    </message>
+    <message>
+        <source>eSft3Perminft2_Alternate1</source>
+        <translation>pi^3/(min·pi^2)</translation>
+    </message>
+    <message>
+        <source>eSLPersm2_Alternate1</source>
+        <translation>L/(s·m^2)</translation>
+    </message>
+    <message>
         <source>eSCubicMeterPerSecondSquareMeter_Alternate1</source>
         <translation>mètres cubes par seconde-mètre carré</translation>
     </message>
@@ -94,6 +114,10 @@
 <context>
     <name>UnitSymbol_AirflowDividedByPower</name>
     <message>
+        <source>eSm3PersW_Alternate1</source>
+        <translation>m^3/(s·W)</translation>
+    </message>
+    <message>
         <source>eSCubicMeterPerSecondWatt_Alternate1</source>
         <translation>mètres cubes par seconde-watt</translation>
     </message>
@@ -124,6 +148,22 @@
 </context>
 <context>
     <name>UnitSymbol_AirflowDividedByVolume</name>
+    <message>
+        <source>eSm3Persm3_Alternate1</source>
+        <translation>m^3/(s·m^3)</translation>
+    </message>
+    <message>
+        <source>eSft3Perminft3_Alternate1</source>
+        <translation>pi^3/(min·pi^3)</translation>
+    </message>
+    <message>
+        <source>eScfmPerft3_Alternate1</source>
+        <translation>pcm/pi^3</translation>
+    </message>
+    <message>
+        <source>eSLPersm3_Alternate1</source>
+        <translation>L/(s·m^3)</translation>
+    </message>
     <message>
         <source>eSCubicMeterPerSecondCubicMeter_Alternate1</source>
         <translation>mètres cubes par seconde-mètre cube</translation>
@@ -921,6 +961,14 @@
 <context>
     <name>UnitSymbol_AreaDensity</name>
     <message>
+        <source>eSgPerm2_Alternate1</source>
+        <translation>g/m^2</translation>
+    </message>
+    <message>
+        <source>eSgPerin2_Alternate1</source>
+        <translation>g/po^2</translation>
+    </message>
+    <message>
         <source>eSGramPerSquareMeter_Alternate1</source>
         <translation>grammes par mètre carré</translation>
     </message>
@@ -947,6 +995,22 @@
 </context>
 <context>
     <name>UnitSymbol_AreaDividedByPower</name>
+    <message>
+        <source>eSm2PerW_Alternate1</source>
+        <translation>m^2/W</translation>
+    </message>
+    <message>
+        <source>eSm2PerkW_Alternate1</source>
+        <translation>m^2/kW</translation>
+    </message>
+    <message>
+        <source>eSft2PerkBTUPerh_Alternate1</source>
+        <translation>pi^2/(kBTU/h)</translation>
+    </message>
+    <message>
+        <source>eSft2PerkBtuPerh_Alternate1</source>
+        <translation>pi^2/(kBtu/h)</translation>
+    </message>
     <message>
         <source>eSSquareMeterPerWatt_Alternate1</source>
         <translation>mètres carrés par watt</translation>
@@ -998,6 +1062,30 @@
 </context>
 <context>
     <name>UnitSymbol_AreaForceScale</name>
+    <message>
+        <source>eSm3PerN_Alternate1</source>
+        <translation>m^3/N</translation>
+    </message>
+    <message>
+        <source>eSm3PerkN_Alternate1</source>
+        <translation>m^3/kN</translation>
+    </message>
+    <message>
+        <source>eSft3Perkip_Alternate1</source>
+        <translation>pi^3/kip</translation>
+    </message>
+    <message>
+        <source>eSft3Perkipf_Alternate1</source>
+        <translation>pi^3/kipf</translation>
+    </message>
+    <message>
+        <source>eSft3Perlbf_Alternate1</source>
+        <translation>pi^3/klbf</translation>
+    </message>
+    <message>
+        <source>eSft3Perklb_Alternate1</source>
+        <translation>pi^3/klb</translation>
+    </message>
     <message>
         <source>eSCubicMeterPerNewton_Alternate1</source>
         <translation>mètres cubes par newton</translation>
@@ -1532,6 +1620,18 @@
 </context>
 <context>
     <name>UnitSymbol_Density</name>
+    <message>
+        <source>eSkmPerm3_Alternate1</source>
+        <translation>kg/m^3</translation>
+    </message>
+    <message>
+        <source>eSgPerCM3_Alternate1</source>
+        <translation>g/cm^3</translation>
+    </message>
+    <message>
+        <source>eSNS2PerMM4_Alternate1</source>
+        <translation>N·s^2/mm⁴</translation>
+    </message>
     <message>
         <source>eSKilogramPerCubicMeter_Alternate1</source>
         <translation>kilogrammes par mètre cube</translation>
@@ -2586,6 +2686,18 @@
 <context>
     <name>UnitSymbol_HeatTransferCoefficient</name>
     <message>
+        <source>eSWPerm2K_Alternate5</source>
+        <translation>W/(m^2·K)</translation>
+    </message>
+    <message>
+        <source>eSBTUPerhft2DegreeF_Alternate1</source>
+        <translation>BTU/(h·pi^2·°F)</translation>
+    </message>
+    <message>
+        <source>eSBtuPerhft2DegreeF_Alternate1</source>
+        <translation>Btu/(h·pi^2·°F)</translation>
+    </message>
+    <message>
         <source>eSWattPerSquareMeterKelvin_Alternate1</source>
         <translation>watts par mètre carré-kelvin</translation>
     </message>
@@ -2628,6 +2740,10 @@
 </context>
 <context>
     <name>UnitSymbol_Illuminance</name>
+    <message>
+        <source>eSlmPerft2_Alternate1</source>
+        <translation>lm/pi^2</translation>
+    </message>
     <message>
         <source>eSlx_I_Alternate1</source>
         <translation>lux</translation>
@@ -3349,6 +3465,30 @@
 <context>
     <name>UnitSymbol_LinearForceScale</name>
     <message>
+        <source>eSm2PerN_Alternate1</source>
+        <translation>m^2/N</translation>
+    </message>
+    <message>
+        <source>eSm2PerkN_Alternate1</source>
+        <translation>m^2/kN</translation>
+    </message>
+    <message>
+        <source>eSft2Perkip_Alternate1</source>
+        <translation>pi^2/kip</translation>
+    </message>
+    <message>
+        <source>eSft2Perkipf_Alternate1</source>
+        <translation>pi^2/kipf</translation>
+    </message>
+    <message>
+        <source>eSft2Perklbf_Alternate1</source>
+        <translation>pi^2/klbf</translation>
+    </message>
+    <message>
+        <source>eSft2Perklb_Alternate1</source>
+        <translation>pi^2/klb</translation>
+    </message>
+    <message>
         <source>eSSquareMeterPerNewton_Alternate1</source>
         <translation>mètres carrés par newton</translation>
     </message>
@@ -3489,6 +3629,14 @@
 </context>
 <context>
     <name>UnitSymbol_Luminance</name>
+    <message>
+        <source>eScdPerm2_Alternate1</source>
+        <translation>cd/m^2</translation>
+    </message>
+    <message>
+        <source>eScdPerft2_Alternate1</source>
+        <translation>cd/pi^2</translation>
+    </message>
     <message>
         <source>eSCandelaPerSquareMeter_Alternate1</source>
         <translation>candelas par mètre carré</translation>
@@ -3936,6 +4084,10 @@
 <context>
     <name>UnitSymbol_MomentScale</name>
     <message>
+        <source>eSs2Permkg_Alternate1</source>
+        <translation>s^2/(m·kg)</translation>
+    </message>
+    <message>
         <source>eSSquareSecondPerMeterKilogram_Alternate1</source>
         <translation>secondes carrées par mètre-kilogramme</translation>
     </message>
@@ -3977,6 +4129,14 @@
 </context>
 <context>
     <name>UnitSymbol_Permeability</name>
+    <message>
+        <source>eSNanogramPerPaSM2_Alternate1</source>
+        <translation>ng/(Pa·s·m^2)</translation>
+    </message>
+    <message>
+        <source>eSGrainPerFt2HrInHg_Alternate1</source>
+        <translation>gr/(pi^2·h·po Hg)</translation>
+    </message>
     <message>
         <source>eSNanogramPerPascalSecondSquareMeter_Alternate1</source>
         <translation>nanogrammes par pascal-seconde-mètre carré</translation>
@@ -4196,6 +4356,30 @@
 <context>
     <name>UnitSymbol_PowerPerUnitOfArea</name>
     <message>
+        <source>eSWPerm2_Alternate1</source>
+        <translation>W/m^2</translation>
+    </message>
+    <message>
+        <source>eSkWPerm2_Alternate1</source>
+        <translation>kW/m^2</translation>
+    </message>
+    <message>
+        <source>eSkWPerft2_Alternate1</source>
+        <translation>kW/pi^2</translation>
+    </message>
+    <message>
+        <source>eSWPerft2_Alternate1</source>
+        <translation>W/pi^2</translation>
+    </message>
+    <message>
+        <source>eSBTUPerhPerft2_Alternate1</source>
+        <translation>BTU/(h·pi^2)</translation>
+    </message>
+    <message>
+        <source>eSBtuPerhPerft2_Alternate1</source>
+        <translation>Btu/(h·pi^2)</translation>
+    </message>
+    <message>
         <source>eSWattPerSquareMeter_Alternate1</source>
         <translation>watts par mètre carré</translation>
     </message>
@@ -4266,6 +4450,22 @@
 <context>
     <name>UnitSymbol_PowerPerUnitOfVolume</name>
     <message>
+        <source>eSWPerm3_Alternate1</source>
+        <translation>W/m^3</translation>
+    </message>
+    <message>
+        <source>eSWPerft3_Alternate1</source>
+        <translation>W/pi^3</translation>
+    </message>
+    <message>
+        <source>eSBTUPerhft3_Alternate1</source>
+        <translation>BTU/(h·pi^3)</translation>
+    </message>
+    <message>
+        <source>eSBtuPerhft3_Alternate1</source>
+        <translation>Btu/(h·pi^3)</translation>
+    </message>
+    <message>
         <source>eSWattPerCubicMeter_Alternate1</source>
         <translation>watts par mètre cube</translation>
     </message>
@@ -4296,6 +4496,54 @@
 </context>
 <context>
     <name>UnitSymbol_Pressure</name>
+    <message>
+        <source>eSkgPercm2_Alternate1</source>
+        <translation>kg/cm^2</translation>
+    </message>
+    <message>
+        <source>eSmksi_Alternate1</source>
+        <translation>klb/po^2</translation>
+    </message>
+    <message>
+        <source>eSlbfPerSquarein_Alternate1</source>
+        <translation>lb/po^2</translation>
+    </message>
+    <message>
+        <source>eSlbfPerin2_Alternate1</source>
+        <translation>lbf/po^2</translation>
+    </message>
+    <message>
+        <source>eSNPermm2_Alternate1</source>
+        <translation>N/mm^2</translation>
+    </message>
+    <message>
+        <source>eSNPerm2_Alternate1</source>
+        <translation>N/m^2</translation>
+    </message>
+    <message>
+        <source>eSdaNPermm2_Alternate1</source>
+        <translation>daN/mm^2</translation>
+    </message>
+    <message>
+        <source>eSdaNPerm2_Alternate1</source>
+        <translation>daN/m^2</translation>
+    </message>
+    <message>
+        <source>eSkNPerm2_Alternate1</source>
+        <translation>kN/m^2</translation>
+    </message>
+    <message>
+        <source>eSMNPerm2_Alternate1</source>
+        <translation>MN/m^2</translation>
+    </message>
+    <message>
+        <source>eSDynePerCM2_Alternate1</source>
+        <translation>dyn/cm^2</translation>
+    </message>
+    <message>
+        <source>eSNPerMicrometer2_Alternate1</source>
+        <translation>N/µm^2</translation>
+    </message>
     <message>
         <source>eSBar_Alternate1</source>
         <translation>bars</translation>
@@ -4841,6 +5089,14 @@
 <context>
     <name>UnitSymbol_SpecificHeat</name>
     <message>
+        <source>eSMM2PerSec2DegreeC_Alternate1</source>
+        <translation>mm^2/(s^2·°C)</translation>
+    </message>
+    <message>
+        <source>eSMicrometer2PerS2DegreeC_Alternate1</source>
+        <translation>µm^2/(s^2·°C)</translation>
+    </message>
+    <message>
         <source>eSJoulePerGramCelsius_Alternate1</source>
         <translation>joules par gramme-degré Celsius</translation>
     </message>
@@ -5052,6 +5308,10 @@
 </context>
 <context>
     <name>UnitSymbol_ThermalConductivity</name>
+    <message>
+        <source>eSbtuInchPerFt2hrDegreeF_Alternate1</source>
+        <translation>BTU·po/(pi^2·h·°F)</translation>
+    </message>
     <message>
         <source>eSWattPerMeterKelvin_Alternate1</source>
         <translation>watts par mètre-kelvin</translation>
@@ -5398,6 +5658,14 @@
 </context>
 <context>
     <name>UnitSymbol_UnitWeight</name>
+    <message>
+        <source>eSNPerm3_Alternate1</source>
+        <translation>N/m^3</translation>
+    </message>
+    <message>
+        <source>eSkNPerm3_Alternate1</source>
+        <translation>kN/m^3</translation>
+    </message>
     <message>
         <source>eSNewtonPerCubicMeter_Alternate1</source>
         <translation>newtons par mètre cube</translation>
@@ -6259,6 +6527,58 @@
 <context>
     <name>UnitSymbol_VolumetricFlowRate</name>
     <message>
+        <source>eSm3Pers_Alternate1</source>
+        <translation>m^3/s</translation>
+    </message>
+    <message>
+        <source>eScm3Permin_Alternate1</source>
+        <translation>cm^3/min</translation>
+    </message>
+    <message>
+        <source>eSft3Perh_Alternate1</source>
+        <translation>pi^3/h</translation>
+    </message>
+    <message>
+        <source>eSft3Permin_Alternate1</source>
+        <translation>pi^3/min</translation>
+    </message>
+    <message>
+        <source>eSft3Pers_Alternate1</source>
+        <translation>pi^3/s</translation>
+    </message>
+    <message>
+        <source>eSin3Permin_Alternate1</source>
+        <translation>po^3/min</translation>
+    </message>
+    <message>
+        <source>eSm3Perh_Alternate1</source>
+        <translation>m^3/h</translation>
+    </message>
+    <message>
+        <source>eSm3Permin_Alternate1</source>
+        <translation>m^3/min</translation>
+    </message>
+    <message>
+        <source>eScm3Pers_Alternate1</source>
+        <translation>cm^3/s</translation>
+    </message>
+    <message>
+        <source>eScm3Perh_Alternate1</source>
+        <translation>cm^3/h</translation>
+    </message>
+    <message>
+        <source>eSft3Perd_Alternate1</source>
+        <translation>pi^3/j</translation>
+    </message>
+    <message>
+        <source>eSm3Perd_Alternate1</source>
+        <translation>m^3/j</translation>
+    </message>
+    <message>
+        <source>eSyd3Permin_Alternate1</source>
+        <translation>yd^3/min</translation>
+    </message>
+    <message>
         <source>eSCubicMeterPerSecond_Alternate1</source>
         <translation>mètres cubes par seconde</translation>
     </message>
@@ -6505,6 +6825,13 @@
     <message>
         <source>eSCubicSurveyFootPerSecond_Alternate1</source>
         <translation>pieds cubes d&apos;arpentage par seconde</translation>
+    </message>
+</context>
+<context>
+    <name>UnitSymbol_LuminousEmittance</name>
+    <message>
+        <source>eSlx_LE_Alternate1</source>
+        <translation>lm/m^2</translation>
     </message>
 </context>
 </TS>

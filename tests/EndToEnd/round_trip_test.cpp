@@ -1,0 +1,107 @@
+// What the library writes, it reads back: for every symbol of the catalogue, in every
+// shipped locale, Parse(Format(v)) returns v within half a display step.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdio>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "KxCoreUnits/UnitsConfig.h"
+#include "KxCoreUnitsUI/UnitsFormatter.h"
+#include "KxCoreUnitsUI/UnitsManager.h"
+
+namespace units = kxnorth::platform::core::units;
+
+namespace {
+
+std::vector<int> AllSymbols() {
+    units::UnitsConfig const* config = units::UnitsConfig::GetInstance();
+    std::vector<int> groups(config->GetUnitGroups(nullptr)), result;
+    config->GetUnitGroups(groups.data());
+    for (int g : groups) {
+        std::vector<int> unitIds(config->GetUnitTypes(g, nullptr));
+        config->GetUnitTypes(g, unitIds.data());
+        for (int u : unitIds) {
+            std::vector<int> symbols(config->GetUnitSymbols(u, nullptr));
+            config->GetUnitSymbols(u, symbols.data());
+            result.insert(result.end(), symbols.begin(), symbols.end());
+        }
+    }
+    return result;
+}
+
+// Half the step the symbol shows at precision 2, in the symbol's unit.
+double HalfStep(int symbol) {
+    switch (symbol) {
+        case 0x702016: case 0x802016: case 0x902016: case 0xA02016:
+            return 0.5 / 4;  // fractions of an inch, quarters at precision 2
+        case 0x408002: case 0x508002: case 0x608002:
+            return 0.5 / 60;  // degrees and minutes at precision 2
+        default:
+            return 0.5e-2;
+    }
+}
+
+struct Failure {
+    std::string locale;
+    int symbol;
+    double value;
+    std::wstring text;
+    double parsed;
+    int result;
+};
+
+}  // namespace
+
+class RoundTrip : public ::testing::TestWithParam<char const*> {
+protected:
+    static void SetUpTestSuite() {
+        units::UnitsManager::Initialize();
+        units::UnitsManager::GetInstance();
+        // Every locale shares the one parse dictionary: load all before any parse.
+        for (wchar_t const* locale : {L"en-US", L"de-DE", L"fr-FR"}) units::UnitsFormatter warm(locale);
+    }
+};
+
+TEST_P(RoundTrip, EverySymbolReadsBackWhatItWrites) {
+    std::wstring const locale(GetParam(), GetParam() + std::strlen(GetParam()));
+    units::UnitsFormatter formatter(locale.c_str());
+    double const values[] = {0, 1.5, -2.25, 11.999, 143.999, 1234.567, -98765.4321, 0.004, 1e6};
+    std::vector<Failure> failures;
+    int checked = 0;
+    for (int symbol : AllSymbols()) {
+        int const unit = symbol & 0xFFFFF;
+        for (double v : values) {
+            wchar_t text[256];
+            double shown = 0;
+            if (formatter.Format(v, unit, text, 256, symbol, &shown) != 0) {
+                failures.push_back({GetParam(), symbol, v, L"<format failed>", 0, -1});
+                continue;
+            }
+            double parsed = NAN;
+            int const result = formatter.Parse(text, parsed, unit);
+            ++checked;
+            // Compare in the written unit, where the step is defined. A bearing names
+            // the direction, so it reads back modulo a full turn.
+            double difference = parsed - shown;
+            if (symbol == 0x508002) difference = std::remainder(difference, 360.0);
+            if (result != 0 || !(std::abs(difference) <= HalfStep(symbol) * (1 + 1e-9) + 1e-9 * std::abs(shown))) {
+                failures.push_back({GetParam(), symbol, v, text, parsed, result});
+            }
+        }
+    }
+    for (std::size_t i = 0; i < failures.size() && i < 40; ++i) {
+        Failure const& f = failures[i];
+        std::string narrow;
+        for (wchar_t c : f.text) narrow += c < 128 ? static_cast<char>(c) : '?';
+        ADD_FAILURE() << f.locale << " symbol 0x" << std::hex << f.symbol << std::dec << " value " << f.value
+                      << " wrote \"" << narrow << "\" read " << f.parsed << " result " << f.result;
+    }
+    std::printf("%s: %zu of %d round trips fail\n", GetParam(), failures.size(), checked);
+    EXPECT_EQ(failures.size(), 0u);
+}
+
+INSTANTIATE_TEST_SUITE_P(Locales, RoundTrip, ::testing::Values("en-US", "de-DE", "fr-FR"),
+                         [](auto const& info) { return std::string(info.param).replace(2, 1, "_"); });
