@@ -2,11 +2,9 @@
 // same value plus hand-written digit grouping.
 #include <benchmark/benchmark.h>
 
-#include <charconv>
-#include <cstring>
-
 #include "KxUnitsNumberFormat.h"
 #include "ratio_main.h"
+#include "reference.h"
 
 namespace units = kxnorth::platform::core::units;
 
@@ -15,29 +13,11 @@ namespace {
 double const kValues[] = {1234567.891, -0.5, 42.0, 98765.4321, 3.14159, -1250000.25, 0.001, 7.5};
 constexpr int kValueCount = sizeof(kValues) / sizeof(kValues[0]);
 
-// to_chars with two decimals, then grouping of the whole part into a wide buffer.
-int ReferenceGrouped(double value, wchar_t* out) {
-    char raw[64];
-    auto r = std::to_chars(raw, raw + sizeof raw, value, std::chars_format::fixed, 2);
-    char const* p = raw;
-    int n = 0;
-    if (*p == '-') out[n++] = *p++;
-    char const* point = static_cast<char const*>(std::memchr(p, '.', static_cast<std::size_t>(r.ptr - p)));
-    int whole = static_cast<int>(point - p);
-    for (int i = 0; i < whole; ++i) {
-        if (i > 0 && (whole - i) % 3 == 0) out[n++] = L',';
-        out[n++] = static_cast<wchar_t>(p[i]);
-    }
-    for (char const* q = point; q < r.ptr; ++q) out[n++] = static_cast<wchar_t>(*q);
-    out[n] = L'\0';
-    return n + 1;
-}
-
 void BM_Reference_ToCharsGrouped(benchmark::State& state) {
     wchar_t out[64];
     int i = 0;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(ReferenceGrouped(kValues[i++ % kValueCount], out));
+        benchmark::DoNotOptimize(kxbench::ToCharsGrouped(kValues[i++ % kValueCount], out));
         benchmark::ClobberMemory();
     }
 }

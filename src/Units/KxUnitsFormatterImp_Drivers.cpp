@@ -49,7 +49,7 @@ int UnitsFormatterImp::Format(double baseValue, int const (&dimensions)[kDimensi
         if (custom->second.symbols.empty()) return 1;
         formatter = custom->second.symbols.front();
     } else {
-        formatter = dynamic_cast<IFormatSymbol const*>(UnitsUIConfig::GetInstance()->FindSymbol(id, *m_displayNames));
+        formatter = UnitsUIConfig::GetInstance()->FindFormatSymbol(id, *m_displayNames);
     }
     if (formatter == nullptr) return 1;
     int const result = formatter->Format(baseValue, dimensions, buffer, size, *this);
@@ -80,7 +80,7 @@ namespace {
 
 // The base value of an evaluated list: its leading result applied to 1.0.
 bool ResultValue(ParseList const& list, int const (&dimensions)[kDimensionCount], double& baseValue) {
-    auto const* result = dynamic_cast<ResultSymbol const*>(list.front().Get());
+    auto const* result = ParseCast<ResultSymbol>(list.front().Get());
     if (result == nullptr) return false;
     double base = 0;
     if (result->GetConverter().ConvertToBase(&base, dimensions, 1.0) != 0) return false;
@@ -149,7 +149,7 @@ namespace {
 
 template <typename T>
 bool Is(ParseList::const_iterator it, ParseList const& list) {
-    return it != list.end() && dynamic_cast<T const*>(it->Get()) != nullptr;
+    return it != list.end() && ParseCast<T>(it->Get()) != nullptr;
 }
 
 // Quantities in parentheses, "(2 ft)·(3 ft)": each "(number unit)" becomes one
@@ -164,10 +164,10 @@ bool ReadParenthesisedQuantities(ParseList& list) {
         auto unit = std::next(number);
         if (Is<SpaceSymbol>(unit, list)) ++unit;
         if (!Is<OperandSymbol>(unit, list) || !Is<RightParenthesisSymbol>(std::next(unit), list)) continue;
-        UnitConverter const& converter = dynamic_cast<OperandSymbol const*>(unit->Get())->GetConverter();
+        UnitConverter const& converter = ParseCast<OperandSymbol>(unit->Get())->GetConverter();
         double base = 0;
         if (converter.ConvertToBase(&base, converter.GetDimTag(),
-                                    dynamic_cast<NumberSymbol const*>(number->Get())->GetNumber()) != 0) {
+                                    ParseCast<NumberSymbol>(number->Get())->GetNumber()) != 0) {
             return false;
         }
         number->Reset(new GenericOperand(GenericConverter(base, converter.GetDimTag())), true);
@@ -189,11 +189,10 @@ int UnitsFormatterImp::Parse(wchar_t const* text, double& baseValue, int const (
     if (!Tokenize(text, list)) return 2;
     if (IParseSymbol::Calculate(list, dimensions) == 0) return ResultValue(list, dimensions, baseValue) ? 0 : 2;
     if (list.empty()) return 2;
-    if (list.size() == 1 && dynamic_cast<NumberSymbol const*>(list.front().Get()) != nullptr) {
+    if (list.size() == 1 && ParseCast<NumberSymbol>(list.front().Get()) != nullptr) {
         // A bare number is read in the default symbol of the quantity's group.
         int const g = group != 0 ? (group & kGroupMask) : UnitsConfig::GetInstance()->FindUnitGroup(dimensions);
-        auto const* unitSymbol = dynamic_cast<IParseSymbol const*>(
-            UnitsUIConfig::GetInstance()->FindSymbol(MakeSymbol(g), *m_displayNames));
+        IParseSymbol const* unitSymbol = UnitsUIConfig::GetInstance()->FindParseSymbol(MakeSymbol(g), *m_displayNames);
         if (unitSymbol == nullptr) return 1;
         list.emplace_back(unitSymbol, false);
         if (IParseSymbol::Calculate(list, dimensions) != 0) return 2;
@@ -370,7 +369,7 @@ int UnitsFormatterImp::SetCustomSymbolString(int symbol, wchar_t const* text, Cu
         return 0;
     }
 
-    auto const* base = dynamic_cast<IFormatSymbol const*>(UnitsUIConfig::GetInstance()->FindSymbol(symbol, *m_displayNames));
+    IFormatSymbol const* base = UnitsUIConfig::GetInstance()->FindFormatSymbol(symbol, *m_displayNames);
     if (base == nullptr) return 1;
     std::vector<std::wstring> pieces;
     std::vector<int> indices;

@@ -5,7 +5,7 @@
 
 #include <cstddef>
 #include <cwchar>
-#include <map>
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <utility>
@@ -16,6 +16,42 @@ namespace kxnorth::platform::core::units {
 template <typename T>
 class UnitsStringDict {
 public:
+    struct DictNode;
+
+    // The children of a branch node, sorted by character. Branches are small and are
+    // searched on every character of every parse, so a flat array beats a tree.
+    class Branches {
+    public:
+        using Entry = std::pair<wchar_t, std::unique_ptr<DictNode>>;
+        using iterator = typename std::vector<Entry>::iterator;
+        using const_iterator = typename std::vector<Entry>::const_iterator;
+
+        iterator begin() { return m_entries.begin(); }
+        iterator end() { return m_entries.end(); }
+        const_iterator begin() const { return m_entries.begin(); }
+        const_iterator end() const { return m_entries.end(); }
+        bool empty() const { return m_entries.empty(); }
+        std::size_t size() const { return m_entries.size(); }
+        void clear() { m_entries.clear(); }
+        iterator erase(iterator it) { return m_entries.erase(it); }
+
+        iterator find(wchar_t c) { return m_entries.begin() + (Find(c) - m_entries.cbegin()); }
+        const_iterator find(wchar_t c) const { return Find(c); }
+        void emplace(wchar_t c, std::unique_ptr<DictNode> node) {
+            auto at = std::lower_bound(m_entries.begin(), m_entries.end(), c,
+                                       [](Entry const& e, wchar_t key) { return e.first < key; });
+            m_entries.emplace(at, c, std::move(node));
+        }
+
+    private:
+        const_iterator Find(wchar_t c) const {
+            auto at = std::lower_bound(m_entries.cbegin(), m_entries.cend(), c,
+                                       [](Entry const& e, wchar_t key) { return e.first < key; });
+            return at != m_entries.cend() && at->first == c ? at : m_entries.cend();
+        }
+        std::vector<Entry> m_entries;
+    };
+
     // A node either passes on through a run of characters to its single child (a run
     // node; an empty run with no child is a leaf), or branches on the next character.
     // Its value belongs to the key that ends on arriving at it.
@@ -25,7 +61,7 @@ public:
         T* value = nullptr;
         bool owned = false;
         std::unique_ptr<DictNode> child;                      // run nodes
-        std::map<wchar_t, std::unique_ptr<DictNode>> branches;  // branch nodes
+        Branches branches;                   // branch nodes
 
         DictNode() = default;
         DictNode(DictNode const&) = delete;

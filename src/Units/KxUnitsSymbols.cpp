@@ -51,7 +51,7 @@ bool ReadNumberRun(ParseIterator first, ParseIterator last, int shapes, RunValue
         if (count == kLongestRun) return false;
         elements[count++] = p->Get();
     }
-    auto numberAt = [&](int i) { return dynamic_cast<NumberSymbol const*>(elements[i]); };
+    auto numberAt = [&](int i) { return ParseCast<NumberSymbol>(elements[i]); };
 
     int start = 0;
     NumberSymbol const* carried = nullptr;
@@ -72,7 +72,7 @@ bool ReadNumberRun(ParseIterator first, ParseIterator last, int shapes, RunValue
         NumberSymbol const* numerator = numberAt(count - 3);
         NumberSymbol const* denominator = numberAt(count - 1);
         if ((parts == 4 && whole == nullptr) || numerator == nullptr || denominator == nullptr ||
-            dynamic_cast<DivisionSymbol const*>(elements[count - 2]) == nullptr) {
+            ParseCast<DivisionSymbol>(elements[count - 2]) == nullptr) {
             return false;
         }
         if (!(denominator->GetNumber() > 0.0)) return false;

@@ -119,9 +119,19 @@ protected:
     IFormatSymbol() = default;
 };
 
+// The parse symbol classes evaluation asks about. A downcast through the symbols'
+// virtual bases costs more than reading a number, so each class answers for itself.
+enum class ParseKind : int {
+    eNumber, eOperand, eOperator, eResult, eDivision, ePrime, eDoublePrime,
+    eEast, eWest, eLeftParenthesis, eRightParenthesis, eSpace,
+};
+
 class KXCOREUNITSUI_EXPORT IParseSymbol : public virtual ISymbol {
 public:
     ~IParseSymbol() override;
+
+    // This object as the class of `kind` (cast to void), or null when it is not one.
+    virtual void const* Self(ParseKind) const { return nullptr; }
 
     // Reduces `list` to one ResultSymbol: 0 done, 1 the list does not evaluate (it is
     // then left partly reduced). `dims` are those of the quantity being read; a bare
@@ -140,6 +150,9 @@ protected:
 // A unit that operators combine: `2 ft m`, `m/s`, `in²`.
 class KXCOREUNITSUI_EXPORT OperandSymbol : public virtual IParseSymbol {
 public:
+    void const* Self(ParseKind kind) const override {
+        return kind == ParseKind::eOperand ? static_cast<OperandSymbol const*>(this) : IParseSymbol::Self(kind);
+    }
     ~OperandSymbol() override;
 
     int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
@@ -169,6 +182,9 @@ private:
 // The value read: its converter's factor is the value in base units.
 class KXCOREUNITSUI_EXPORT ResultSymbol : public virtual GenericOperand {
 public:
+    void const* Self(ParseKind kind) const override {
+        return kind == ParseKind::eResult ? static_cast<ResultSymbol const*>(this) : GenericOperand::Self(kind);
+    }
     explicit ResultSymbol(GenericConverter const& converter);
     ~ResultSymbol() override;
 
@@ -185,6 +201,9 @@ enum NumberSymbolFlags : int {
 
 class KXCOREUNITSUI_EXPORT NumberSymbol : public virtual IParseSymbol {
 public:
+    void const* Self(ParseKind kind) const override {
+        return kind == ParseKind::eNumber ? static_cast<NumberSymbol const*>(this) : IParseSymbol::Self(kind);
+    }
     NumberSymbol(double value, int flags);
     ~NumberSymbol() override;
 
@@ -205,6 +224,9 @@ private:
 
 class KXCOREUNITSUI_EXPORT OperatorSymbol : public virtual IParseSymbol {
 public:
+    void const* Self(ParseKind kind) const override {
+        return kind == ParseKind::eOperator ? static_cast<OperatorSymbol const*>(this) : IParseSymbol::Self(kind);
+    }
     // Kinds: only the low two bits are read; 2 applies the operator at once, without
     // first evaluating operators of higher priority to its right.
     enum Kind : int { eBinary = 1, eImmediate = 2, eOpening = 3 };
@@ -228,6 +250,9 @@ private:
 // so that `5 1/2` stays a mixed number.
 class KXCOREUNITSUI_EXPORT SpaceSymbol : public virtual IParseSymbol {
 public:
+    void const* Self(ParseKind kind) const override {
+        return kind == ParseKind::eSpace ? static_cast<SpaceSymbol const*>(this) : IParseSymbol::Self(kind);
+    }
     SpaceSymbol() = default;
     ~SpaceSymbol() override;
     int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
@@ -242,6 +267,9 @@ public:
 
 class KXCOREUNITSUI_EXPORT DivisionSymbol : public virtual OperatorSymbol {
 public:
+    void const* Self(ParseKind kind) const override {
+        return kind == ParseKind::eDivision ? static_cast<DivisionSymbol const*>(this) : OperatorSymbol::Self(kind);
+    }
     DivisionSymbol();
     ~DivisionSymbol() override;
     int DoCalc(ParseList& list, ParseIterator& it) const override;
@@ -271,6 +299,9 @@ public:
 
 class KXCOREUNITSUI_EXPORT LeftParenthesisSymbol : public virtual OperatorSymbol {
 public:
+    void const* Self(ParseKind kind) const override {
+        return kind == ParseKind::eLeftParenthesis ? static_cast<LeftParenthesisSymbol const*>(this) : OperatorSymbol::Self(kind);
+    }
     LeftParenthesisSymbol();
     ~LeftParenthesisSymbol() override;
     int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
@@ -279,6 +310,9 @@ public:
 
 class KXCOREUNITSUI_EXPORT RightParenthesisSymbol : public virtual OperatorSymbol {
 public:
+    void const* Self(ParseKind kind) const override {
+        return kind == ParseKind::eRightParenthesis ? static_cast<RightParenthesisSymbol const*>(this) : OperatorSymbol::Self(kind);
+    }
     RightParenthesisSymbol();
     ~RightParenthesisSymbol() override;
     int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
@@ -511,6 +545,9 @@ public:
 
 class KXCOREUNITSUI_EXPORT PrimeSymbol : public virtual IParseSymbol {
 public:
+    void const* Self(ParseKind kind) const override {
+        return kind == ParseKind::ePrime ? static_cast<PrimeSymbol const*>(this) : IParseSymbol::Self(kind);
+    }
     PrimeSymbol() = default;
     ~PrimeSymbol() override;
     int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
@@ -518,6 +555,9 @@ public:
 
 class KXCOREUNITSUI_EXPORT DoublePrimeSymbol : public virtual IParseSymbol {
 public:
+    void const* Self(ParseKind kind) const override {
+        return kind == ParseKind::eDoublePrime ? static_cast<DoublePrimeSymbol const*>(this) : IParseSymbol::Self(kind);
+    }
     DoublePrimeSymbol() = default;
     ~DoublePrimeSymbol() override;
     int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
@@ -563,6 +603,9 @@ enum class BearingReference { eNone, eFromNorth, eFromSouth };
 
 class KXCOREUNITSUI_EXPORT EastSymbol : public virtual IParseSymbol {
 public:
+    void const* Self(ParseKind kind) const override {
+        return kind == ParseKind::eEast ? static_cast<EastSymbol const*>(this) : IParseSymbol::Self(kind);
+    }
     explicit EastSymbol(BearingReference reference = BearingReference::eNone);
     ~EastSymbol() override;
     int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
@@ -574,6 +617,9 @@ private:
 
 class KXCOREUNITSUI_EXPORT WestSymbol : public virtual IParseSymbol {
 public:
+    void const* Self(ParseKind kind) const override {
+        return kind == ParseKind::eWest ? static_cast<WestSymbol const*>(this) : IParseSymbol::Self(kind);
+    }
     explicit WestSymbol(BearingReference reference = BearingReference::eNone);
     ~WestSymbol() override;
     int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
@@ -642,5 +688,66 @@ extern template class BasicGenericSymbolEx<GenericSymbol>;
 extern template class BasicLinearSymbol<SimpleFormatSymbol>;
 extern template class BasicDegreePrimeDoublePrimeSymbol<GenericSymbol>;
 extern template class BasicPrimeDoublePrimeSymbol<GenericSymbol>;
+
+
+// ---------------------------------------------------------------------------------
+// Asking a parse symbol what it is.
+
+template <typename T>
+struct ParseKindOf;
+template <>
+struct ParseKindOf<NumberSymbol> {
+    static constexpr ParseKind value = ParseKind::eNumber;
+};
+template <>
+struct ParseKindOf<OperandSymbol> {
+    static constexpr ParseKind value = ParseKind::eOperand;
+};
+template <>
+struct ParseKindOf<OperatorSymbol> {
+    static constexpr ParseKind value = ParseKind::eOperator;
+};
+template <>
+struct ParseKindOf<ResultSymbol> {
+    static constexpr ParseKind value = ParseKind::eResult;
+};
+template <>
+struct ParseKindOf<DivisionSymbol> {
+    static constexpr ParseKind value = ParseKind::eDivision;
+};
+template <>
+struct ParseKindOf<PrimeSymbol> {
+    static constexpr ParseKind value = ParseKind::ePrime;
+};
+template <>
+struct ParseKindOf<DoublePrimeSymbol> {
+    static constexpr ParseKind value = ParseKind::eDoublePrime;
+};
+template <>
+struct ParseKindOf<EastSymbol> {
+    static constexpr ParseKind value = ParseKind::eEast;
+};
+template <>
+struct ParseKindOf<WestSymbol> {
+    static constexpr ParseKind value = ParseKind::eWest;
+};
+template <>
+struct ParseKindOf<LeftParenthesisSymbol> {
+    static constexpr ParseKind value = ParseKind::eLeftParenthesis;
+};
+template <>
+struct ParseKindOf<RightParenthesisSymbol> {
+    static constexpr ParseKind value = ParseKind::eRightParenthesis;
+};
+template <>
+struct ParseKindOf<SpaceSymbol> {
+    static constexpr ParseKind value = ParseKind::eSpace;
+};
+
+// The symbol as a T, or null when it is none (or the slot is empty).
+template <typename T>
+T const* ParseCast(IParseSymbol const* symbol) {
+    return symbol == nullptr ? nullptr : static_cast<T const*>(symbol->Self(ParseKindOf<T>::value));
+}
 
 }  // namespace kxnorth::platform::core::units

@@ -33,7 +33,7 @@ inline constexpr double kQuarterTurnInArcSeconds = 324000.0;
 
 template <typename T>
 T const* As(ParseIterator it) {
-    return dynamic_cast<T const*>(it->Get());
+    return ParseCast<T>(it->Get());
 }
 
 inline bool AllDimensionsZero(DimensionVector const& dims) {

@@ -25,7 +25,8 @@ int SymbolIndex(int id) { return (id >> kSymbolIndexShift) & 0xFF; }
 
 }  // namespace
 
-SymbolInfo::SymbolInfo(ISymbol* s) : symbol(s) {}
+SymbolInfo::SymbolInfo(ISymbol* s)
+    : symbol(s), format(dynamic_cast<IFormatSymbol const*>(s)), parse(dynamic_cast<IParseSymbol*>(s)) {}
 SymbolInfo::~SymbolInfo() { delete symbol; }
 
 UnitsUIConfig::UnitsUIConfig() { InitParseSymTbl(); }
@@ -102,7 +103,7 @@ void UnitsUIConfig::AddAlternatesToSymbolDict(UnitSymbol symbol, UnitsDisplayNam
     if (alternates.isEmpty()) return;
     std::unique_ptr<SymbolInfo> const& info =
         table[GroupNumber(symbol) - 1][UnitIndex(symbol) - 1][SymbolIndex(symbol) - 1];
-    IParseSymbol* parse = info ? dynamic_cast<IParseSymbol*>(info->symbol) : nullptr;
+    IParseSymbol* parse = info ? info->parse : nullptr;
     for (QString const& text : alternates) AddToParseDict(text, parse);
 }
 
@@ -179,9 +180,9 @@ void UnitsUIConfig::InitSymbolTable(QString const& locale, UnitsDisplayNames con
                 }
                 QString const name = names.symbolName(static_cast<UnitSymbol>(symbol));
                 bool parsable = true;
-                ISymbol* object = CreateSymbol(symbol, name, parsable);
-                unitTable[SymbolIndex(symbol) - 1] = std::make_unique<SymbolInfo>(object);
-                if (parsable) AddToParseDict(name, dynamic_cast<IParseSymbol*>(object));
+                auto info = std::make_unique<SymbolInfo>(CreateSymbol(symbol, name, parsable));
+                if (parsable) AddToParseDict(name, info->parse);
+                unitTable[SymbolIndex(symbol) - 1] = std::move(info);
                 AddAlternatesToSymbolDict(static_cast<UnitSymbol>(symbol), names, table);
             }
         }
@@ -196,16 +197,36 @@ void UnitsUIConfig::InitSymbolTable(QString const& locale) const {
 }
 
 ISymbol* UnitsUIConfig::FindSymbol(int id, QString const& locale) const {
-    InitSymbolTable(locale);
+    SymbolInfo const* info = FindSymbolInfo(id, locale);
+    return info != nullptr ? info->symbol : nullptr;
+}
+
+IFormatSymbol const* UnitsUIConfig::FindFormatSymbol(int id, UnitsDisplayNames const& names) const {
+    if ((id & kUnitIndexMask) != 0 && (id & 0xFF00000) == 0) id |= kDefaultSymbolBit;
+    SymbolInfo const* info = FindSymbolInfo(id, names.locale());
+    return info != nullptr ? info->format : nullptr;
+}
+
+IParseSymbol const* UnitsUIConfig::FindParseSymbol(int id, UnitsDisplayNames const& names) const {
+    if ((id & kUnitIndexMask) != 0 && (id & 0xFF00000) == 0) id |= kDefaultSymbolBit;
+    SymbolInfo const* info = FindSymbolInfo(id, names.locale());
+    return info != nullptr ? info->parse : nullptr;
+}
+
+SymbolInfo const* UnitsUIConfig::FindSymbolInfo(int id, QString const& locale) const {
     auto it = m_tables.find(locale);
-    if (it == m_tables.end()) return nullptr;
+    if (it == m_tables.end()) {
+        InitSymbolTable(locale);
+        it = m_tables.find(locale);
+        if (it == m_tables.end()) return nullptr;
+    }
     int const group = GroupNumber(id), unit = UnitIndex(id), index = SymbolIndex(id);
     SymbolTable const& table = it->second;
     if (group < 1 || static_cast<std::size_t>(group) > table.size()) return nullptr;
     if (unit < 1 || static_cast<std::size_t>(unit) > table[group - 1].size()) return nullptr;
     auto const& symbols = table[group - 1][unit - 1];
     if (index < 1 || static_cast<std::size_t>(index) > symbols.size()) return nullptr;
-    return symbols[index - 1] ? symbols[index - 1]->symbol : nullptr;
+    return symbols[index - 1].get();
 }
 
 ISymbol* UnitsUIConfig::FindSymbol(int id, UnitsDisplayNames const& names) const {
@@ -215,7 +236,8 @@ ISymbol* UnitsUIConfig::FindSymbol(int id, UnitsDisplayNames const& names) const
 
 int UnitsUIConfig::GetDisplayNameLength(int id, unsigned long& length, QString const& locale) const {
     if ((id & kGroupMask) != 0 && (id & 0xFF00FFF) == 0) return 1;
-    auto const* symbol = dynamic_cast<IFormatSymbol const*>(FindSymbol(id, locale));
+    SymbolInfo const* info = FindSymbolInfo(id, locale);
+    IFormatSymbol const* symbol = info != nullptr ? info->format : nullptr;
     if (symbol == nullptr) return 1;
     length = static_cast<unsigned long>(std::wcslen(symbol->GetSymbolName())) + 1;
     return 0;
@@ -224,7 +246,8 @@ int UnitsUIConfig::GetDisplayNameLength(int id, unsigned long& length, QString c
 int UnitsUIConfig::GetDisplayName(int id, wchar_t* buffer, unsigned long size, QString const& locale) const {
     if (buffer == nullptr || size == 0) return 1;
     if ((id & kGroupMask) != 0 && (id & 0xFF00FFF) == 0) return 1;
-    auto const* symbol = dynamic_cast<IFormatSymbol const*>(FindSymbol(id, locale));
+    SymbolInfo const* info = FindSymbolInfo(id, locale);
+    IFormatSymbol const* symbol = info != nullptr ? info->format : nullptr;
     if (symbol == nullptr) return 1;
     std::wstring const name = symbol->GetSymbolName();
     std::size_t const n = std::min<std::size_t>(name.size(), size - 1);

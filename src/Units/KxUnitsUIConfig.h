@@ -20,13 +20,19 @@ class ISymbol;
 class IParseSymbol;
 class UnitsDisplayNames;
 
-// One entry of a locale's table; owns its symbol object.
+class IFormatSymbol;
+
+// One entry of a locale's table; owns its symbol object. The object's two faces are
+// found once here: a cross-cast through the symbols' virtual bases costs more than
+// formatting a number.
 struct SymbolInfo {
     explicit SymbolInfo(ISymbol* symbol);
     ~SymbolInfo();
     SymbolInfo(SymbolInfo const&) = delete;
     SymbolInfo& operator=(SymbolInfo const&) = delete;
     ISymbol* symbol;
+    IFormatSymbol const* format;  // null when the symbol cannot write
+    IParseSymbol* parse;          // null when the symbol cannot be typed
 };
 
 class KXCOREUNITSUI_EXPORT UnitsUIConfig {
@@ -43,6 +49,10 @@ public:
     void InitSymbolTable(QString const& locale) const;
 
     ISymbol* FindSymbol(int id, QString const& locale) const;
+    SymbolInfo const* FindSymbolInfo(int id, QString const& locale) const;
+    // The symbol's writing and typing faces, without a cast per call.
+    IFormatSymbol const* FindFormatSymbol(int id, UnitsDisplayNames const& names) const;
+    IParseSymbol const* FindParseSymbol(int id, UnitsDisplayNames const& names) const;
     // A unit identifier stands for its default symbol.
     ISymbol* FindSymbol(int id, UnitsDisplayNames const& names) const;
     // The longest parse symbol at the start of `text`; `length` gets the characters
