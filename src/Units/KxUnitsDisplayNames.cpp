@@ -3,6 +3,7 @@
 #include "KxUnitsDisplayNames.h"
 
 #include <QFile>
+#include <vector>
 
 #include "KxAssert.h"
 #include "KxCoreUnits/UnitsConfig.h"
@@ -30,6 +31,31 @@ constexpr char kUnitsModule[] = "KxCoreUnitsUI";
 constexpr char kSymbolsModule[] = "KxCoreUnitsUI_units_symbols";
 constexpr char kAlternatesModule[] = "KxCoreUnitsUI_units_parsing_alternate_symbols";
 constexpr int kMaxAlternates = 10;
+
+// The translation keys of every symbol's alternates, in UTF-8, made once per process:
+// each locale asks its translator for all of them.
+struct AlternateKeys {
+    int symbol;
+    QByteArray context;
+    QByteArray keys[kMaxAlternates];
+};
+
+std::vector<AlternateKeys> const& AllAlternateKeys(QMap<int, UnitsDisplayNames::SymbolData> const& symbols) {
+    static std::vector<AlternateKeys> const all = [&symbols] {
+        std::vector<AlternateKeys> result;
+        result.reserve(static_cast<std::size_t>(symbols.size()));
+        UnitsConfig const* config = UnitsConfig::GetInstance();
+        for (auto it = symbols.constBegin(); it != symbols.constEnd(); ++it) {
+            AlternateKeys entry{it.key(), UnitsDisplayNames::symbolContext(static_cast<UnitSymbol>(it.key())).toUtf8(), {}};
+            QByteArray const base =
+                "eS" + QString::fromWCharArray(config->GetGlobalName(it.key())).toUtf8() + "_Alternate";
+            for (int n = 1; n <= kMaxAlternates; ++n) entry.keys[n - 1] = base + QByteArray::number(n);
+            result.push_back(std::move(entry));
+        }
+        return result;
+    }();
+    return all;
+}
 
 // The first row of an identifier wins; later duplicates are ignored.
 void FillFrom(QMap<int, char const*>& map, detail::NameRow const* rows, bool negativeEnds) {
@@ -98,19 +124,15 @@ void UnitsDisplayNames::FillAlternates() const {
     if (s_symbolAlternatesMap.contains(m_locale)) return;
     QMap<int, QStringList> alternates;
     if (!m_alternatesTranslator.isEmpty()) {
-        UnitsConfig const* config = UnitsConfig::GetInstance();
-        for (auto it = s_symbolMap.constBegin(); it != s_symbolMap.constEnd(); ++it) {
-            QByteArray const base =
-                "eS" + QString::fromWCharArray(config->GetGlobalName(it.key())).toUtf8() + "_Alternate";
-            QByteArray const context = symbolContext(static_cast<UnitSymbol>(it.key())).toUtf8();
+        for (AlternateKeys const& entry : AllAlternateKeys(s_symbolMap)) {
             QStringList list;
             // Every number is tried: a gap in the numbering does not end the list.
-            for (int n = 1; n <= kMaxAlternates; ++n) {
-                QByteArray const key = base + QByteArray::number(n);
-                QString const text = m_alternatesTranslator.translate(context.constData(), key.constData(), nullptr, -1);
+            for (QByteArray const& key : entry.keys) {
+                QString const text =
+                    m_alternatesTranslator.translate(entry.context.constData(), key.constData(), nullptr, -1);
                 if (!text.isEmpty()) list.append(text);
             }
-            if (!list.isEmpty()) alternates.insert(it.key(), list);
+            if (!list.isEmpty()) alternates.insert(entry.symbol, list);
         }
     }
     s_symbolAlternatesMap.insert(m_locale, alternates);
@@ -159,7 +181,12 @@ QString UnitsDisplayNames::translate(QString const& context, QString const& text
 }
 
 QString UnitsDisplayNames::symbolContext(UnitSymbol symbol) {
-    return QStringLiteral("UnitSymbol_") + StringUtil::GetUnitGlobalName(symbol & kGroupMask);
+    // One context per group, made on first use; group numbers run from 1 to 255.
+    static QString contexts[256];
+    int const group = symbol & kGroupMask;
+    QString& context = contexts[group >> 12];
+    if (context.isEmpty()) context = QStringLiteral("UnitSymbol_") + StringUtil::GetUnitGlobalName(group);
+    return context;
 }
 
 }  // namespace kxnorth::platform::core::units
