@@ -23,7 +23,8 @@ catalogue tables, and reports every text that symbols of different units claim:
 - within a group: one unit shadows another of the same quantity. Acceptable
   when the common unit comes first and the loser keeps a text of its own.
 
-It also reports violations: an alternate equal to a fixed parser text,
+It also reports violations: a group, unit type or number-format name or a symbol
+key without its translation, or a message in a context where it is never looked up; an alternate equal to a fixed parser text,
 starting with a digit (the number reader takes it first, so it can never
 match), or starting or ending with white space; an alternate filed under a key
 that names no symbol, the wrong context or a number outside 1..10; a message
@@ -69,6 +70,9 @@ CONTEXT_TEXTS = set("NESWdg\u00B0" + PRIMES + DOUBLE_PRIMES)
 FIXED = "fixed"   # owner of the fixed texts, a group and unit of its own
 
 
+NUMBER_FORMATS = ("Exponential", "exponential", "Fixed Point", "General", "general", "Number", "Fraction")
+
+
 def read_rows(path):
     with open(path, encoding="utf-8") as f:
         for line in f:
@@ -80,7 +84,9 @@ def read_rows(path):
 
 class Catalogue:
     def __init__(self, data_dir):
-        self.groups = {int(r[0], 16): r[1] for r in read_rows(os.path.join(data_dir, "groups.tsv"))}
+        group_rows = list(read_rows(os.path.join(data_dir, "groups.tsv")))
+        self.groups = {int(r[0], 16): r[1] for r in group_rows}
+        self.group_names = [r[9] for r in group_rows]
         self.units = {}
         for r in read_rows(os.path.join(data_dir, "units.tsv")):
             self.units[int(r[0], 16)] = (r[1], r[4])
@@ -150,6 +156,21 @@ def check_locale(cat, translations_dir, locale, strict):
         if table is None:
             notes.append(f"{module}.ts is missing")
     names, symbols, alternates = names or {}, symbols or {}, alternates or {}
+
+    # Every name and symbol key has its translation, in its own context, and nothing
+    # stands in a context where it is never looked up.
+    expected_names = {("UnitGroup", n) for n in cat.group_names}
+    expected_names |= {("UnitType", u[1]) for u in cat.units.values()}
+    expected_names |= {("NumberFormat", n) for n in NUMBER_FORMATS}
+    expected_symbols = {(cat.context(sid), "eS" + name) for sid, kind, name in cat.symbols if kind == 0}
+    for module, table, expected in ((NAMES_MODULE, names, expected_names),
+                                    (SYMBOLS_MODULE, symbols, expected_symbols)):
+        if not table:
+            continue
+        for context, source in sorted(expected - {k for k, v in table.items() if v}):
+            violations.append(f"{module}: {context}/{source} has no translation")
+        for context, source in sorted(set(table) - expected):
+            violations.append(f"{module}: {context}/{source} is never looked up there")
 
     # Alternate keys that the runtime never asks for.
     wanted = set()
