@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs every Debian package the build, the tests and the benchmarks need.
+# Installs every Debian package the build, the tests, the benchmarks (with the peers they
+# are compared against: ICU, UDUNITS-2) and the fuzz targets (clang with libFuzzer) need.
 # Idempotent: asks apt only for what is missing, and refreshes the package lists only then.
 set -euo pipefail
 
@@ -7,6 +8,8 @@ packages=(
   build-essential cmake python3
   qt6-base-dev qt6-l10n-tools
   libgtest-dev libgmock-dev libbenchmark-dev
+  libicu-dev libudunits2-dev
+  clang libclang-rt-14-dev
 )
 
 missing=()

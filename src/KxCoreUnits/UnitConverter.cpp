@@ -1,6 +1,7 @@
 #include "KxCoreUnits/UnitConverter.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace kxnorth::platform::core::units {
 
@@ -8,6 +9,13 @@ namespace {
 
 bool SameDims(int const (&a)[kDimensionCount], int const (&b)[kDimensionCount]) {
     return std::equal(a, a + kDimensionCount, b);
+}
+
+// Exponents saturate instead of overflowing: typed text can square a unit thirty
+// times over, and such a quantity must stay defined, matching no unit, not wrap round.
+int Saturate(long long exponent) {
+    return static_cast<int>(
+        std::clamp<long long>(exponent, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
 }
 
 }  // namespace
@@ -45,13 +53,13 @@ bool GenericConverter::IsCompatible(int const (&dims)[kDimensionCount]) const {
 
 GenericConverter operator*(GenericConverter const& a, GenericConverter const& b) {
     int dims[kDimensionCount];
-    for (int i = 0; i < kDimensionCount; ++i) dims[i] = a.GetDimTag()[i] + b.GetDimTag()[i];
+    for (int i = 0; i < kDimensionCount; ++i) dims[i] = Saturate(static_cast<long long>(a.GetDimTag()[i]) + b.GetDimTag()[i]);
     return GenericConverter(a.GetFactor() * b.GetFactor(), dims);
 }
 
 GenericConverter operator/(GenericConverter const& a, GenericConverter const& b) {
     int dims[kDimensionCount];
-    for (int i = 0; i < kDimensionCount; ++i) dims[i] = a.GetDimTag()[i] - b.GetDimTag()[i];
+    for (int i = 0; i < kDimensionCount; ++i) dims[i] = Saturate(static_cast<long long>(a.GetDimTag()[i]) - b.GetDimTag()[i]);
     return GenericConverter(a.GetFactor() / b.GetFactor(), dims);
 }
 

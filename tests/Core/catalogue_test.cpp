@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 #include <map>
 #include <memory>
 #include <set>
@@ -195,4 +196,29 @@ TEST(CatalogueFactors, TemperatureScalesMeetAtTheirFixedPoints) {
 TEST(CatalogueFactors, YearVariantsKeepTheirLengths) {
     EXPECT_NEAR(ToBase(UnitId(L"YearJulian"), 1) / 86400, 365.25, 1e-9);
     EXPECT_NEAR(ToBase(UnitId(L"YearGregorian"), 1) / 86400, 365.2425, 1e-9);
+}
+
+TEST(GenericConverterArithmetic, ProductsAndQuotientsCombineFactorsAndExponents) {
+    int const length[7] = {1, 0, 0, 0, 0, 0, 0};
+    int const time[7] = {0, 0, 1, 0, 0, 0, 0};
+    units::GenericConverter const foot(0.3048, length), minute(60, time);
+    units::GenericConverter const area = foot * foot;
+    EXPECT_DOUBLE_EQ(area.GetFactor(), 0.3048 * 0.3048);
+    EXPECT_EQ(area.GetDimTag()[0], 2);
+    units::GenericConverter const speed = foot / minute;
+    EXPECT_DOUBLE_EQ(speed.GetFactor(), 0.3048 / 60);
+    EXPECT_EQ(speed.GetDimTag()[0], 1);
+    EXPECT_EQ(speed.GetDimTag()[2], -1);
+}
+
+TEST(GenericConverterArithmetic, HugeExponentsSaturateInsteadOfWrapping) {
+    int const big[7] = {std::numeric_limits<int>::max(), std::numeric_limits<int>::min(), 0, 0, 0, 0, 0};
+    units::GenericConverter const q(2, big);
+    units::GenericConverter const product = q * q;
+    EXPECT_EQ(product.GetDimTag()[0], std::numeric_limits<int>::max());
+    EXPECT_EQ(product.GetDimTag()[1], std::numeric_limits<int>::min());
+    units::GenericConverter const quotient = q / q;
+    EXPECT_EQ(quotient.GetDimTag()[0], 0);
+    units::GenericConverter const inverse = units::GenericConverter(1, {}) / q;
+    EXPECT_EQ(inverse.GetDimTag()[1], std::numeric_limits<int>::max());
 }
