@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cwchar>
 
 #include "KxCoreUnits/UnitsConfig.h"
@@ -60,6 +61,43 @@ UnitsFormatterImp::UnitsFormatterImp(wchar_t const* locale)
 void UnitsFormatterImp::AddToken(std::wstring const& text, NumberTokenKind kind) {
     // Not owned; an existing key keeps its kind, as at construction.
     m_numberTokens.Add(text.c_str(), &kTokenValues[kind], false, true);
+    RefreshAsciiNumberTokens();
+}
+
+void UnitsFormatterImp::EraseToken(std::wstring const& text) {
+    m_numberTokens.Erase(text.c_str());
+    RefreshAsciiNumberTokens();
+}
+
+void UnitsFormatterImp::EraseIfStillKind(std::wstring const& text, NumberTokenKind kind) {
+    UnitsStringDict<int const>::Match const m = m_numberTokens.Find(text.c_str());
+    if (m.value != nullptr && *m.value - 1 == kind) EraseToken(text);
+}
+
+UnitsFormatterImp::NumberTokenMatch UnitsFormatterImp::FindNumberToken(wchar_t const* text) const {
+    UnitsStringDict<int const>::Match const m = m_numberTokens.Find(text);
+    if (m.value == nullptr || m.length == 0) return {-1, 0};
+    return {*m.value - 1, static_cast<int>(m.length)};
+}
+
+void UnitsFormatterImp::RefreshAsciiNumberTokens() {
+    m_asciiNumberTokens.fill(kNoNumberToken);
+    // Keys are told apart by their first character at the root: one branch per
+    // character, or a single run when the dictionary holds one key. The empty key
+    // (an empty sign) matches nothing a number is read from.
+    using Node = UnitsStringDict<int const>::DictNode;
+    auto note = [this](wchar_t c, Node const* next) {
+        if (static_cast<std::uint32_t>(c) >= m_asciiNumberTokens.size()) return;
+        bool const alone = next != nullptr && next->IsLeaf() && next->value != nullptr;
+        m_asciiNumberTokens[static_cast<std::size_t>(c)] =
+            alone ? static_cast<signed char>(*next->value - 1) : kAskNumberTokens;
+    };
+    Node const& root = m_numberTokens.Root();
+    if (!root.isRun) {
+        for (auto const& [c, child] : root.branches) note(c, child.get());
+    } else if (!root.run.empty()) {
+        note(root.run[0], nullptr);
+    }
 }
 
 // --- Number text -----------------------------------------------------------------
@@ -94,7 +132,7 @@ int UnitsFormatterImp::SetNativeDigits(wchar_t const* digits) {
             if (digits[i] == digits[j]) return 1;
         }
     }
-    for (int d = 0; d < 10; ++d) m_numberTokens.Erase(std::wstring(1, m_numbers.digits[d]).c_str());
+    for (int d = 0; d < 10; ++d) EraseToken(std::wstring(1, m_numbers.digits[d]));
     std::wmemcpy(m_numbers.digits, digits, 10);
     for (int d = 0; d < 10; ++d) AddToken(std::wstring(1, digits[d]), static_cast<NumberTokenKind>(d));
     return 0;
@@ -120,32 +158,21 @@ void UnitsFormatterImp::GetNumberGroupSeparator(wchar_t* buffer, unsigned long s
 // check first. The difference is deliberate and kept.
 void UnitsFormatterImp::SetPositiveSign(wchar_t const* sign) {
     if (sign == nullptr) return;
-    m_numberTokens.Erase(m_numbers.positiveSign.c_str());
+    EraseToken(m_numbers.positiveSign);
     m_numbers.positiveSign = sign;
     AddToken(m_numbers.positiveSign, eNTPositiveSign);
 }
 
 void UnitsFormatterImp::SetNegativeSign(wchar_t const* sign) {
     if (sign == nullptr) return;
-    m_numberTokens.Erase(m_numbers.negativeSign.c_str());
+    EraseToken(m_numbers.negativeSign);
     m_numbers.negativeSign = sign;
     AddToken(m_numbers.negativeSign, eNTNegativeSign);
 }
 
-namespace {
-
-// Erases `text` only when its longest match still carries `kind`: another setting
-// may have taken the key over since.
-void EraseIfStillKind(UnitsStringDict<int const>& tokens, std::wstring const& text, NumberTokenKind kind) {
-    UnitsStringDict<int const>::Match const m = tokens.Find(text.c_str());
-    if (m.value != nullptr && *m.value - 1 == kind) tokens.Erase(text.c_str());
-}
-
-}  // namespace
-
 int UnitsFormatterImp::SetNumberDecimalSeparator(wchar_t const* separator) {
     if (separator == nullptr || *separator == L'\0') return 1;
-    EraseIfStillKind(m_numberTokens, m_numbers.decimalSeparator, eNTDecimalSeparator);
+    EraseIfStillKind(m_numbers.decimalSeparator, eNTDecimalSeparator);
     m_numbers.decimalSeparator = separator;
     AddToken(m_numbers.decimalSeparator, eNTDecimalSeparator);
     return 0;
@@ -153,7 +180,7 @@ int UnitsFormatterImp::SetNumberDecimalSeparator(wchar_t const* separator) {
 
 int UnitsFormatterImp::SetNumberGroupSeparator(wchar_t const* separator) {
     if (separator == nullptr || *separator == L'\0') return 1;
-    EraseIfStillKind(m_numberTokens, m_numbers.groupSeparator, eNTGroupSeparator);
+    EraseIfStillKind(m_numbers.groupSeparator, eNTGroupSeparator);
     m_numbers.groupSeparator = separator;
     AddToken(m_numbers.groupSeparator, eNTGroupSeparator);
     return 0;
@@ -272,6 +299,33 @@ int UnitsFormatterImp::CheckToken(wchar_t const* text) const {
 
 int UnitsFormatterImp::ParseNumber(wchar_t const* text, double* value, int* flags, int* start) const {
     if (text == nullptr || value == nullptr) return -1;
+    // Most numbers typed are an optional sign and digits, each a token of one ASCII
+    // character, before a character that starts no token. Those are read here, with
+    // the same arithmetic as below; anything else is read below from the start.
+    int found = 0;
+    int length = 0;
+    signed char entry = AsciiNumberToken(text[0]);
+    if (entry == eNTPositiveSign || entry == eNTNegativeSign) {
+        found = entry == eNTNegativeSign ? ePNLeadingNegativeSign : ePNLeadingPositiveSign;
+        entry = AsciiNumberToken(text[++length]);
+    }
+    if (entry >= eNTDigit0 && entry <= eNTDigit0 + 9) {
+        double whole = 0;
+        do {
+            whole = whole * 10 + entry;
+            entry = AsciiNumberToken(text[++length]);
+        } while (entry >= eNTDigit0 && entry <= eNTDigit0 + 9);
+        if (entry == kNoNumberToken) {
+            *value = (found & ePNLeadingNegativeSign) != 0 ? -whole : whole;
+            if (flags != nullptr) *flags = found | ePNWholeDigits;
+            if (start != nullptr) *start = 0;
+            return length;
+        }
+    }
+    return ParseNumberAnywhere(text, value, flags, start);
+}
+
+int UnitsFormatterImp::ParseNumberAnywhere(wchar_t const* text, double* value, int* flags, int* start) const {
     enum State { kStart, kAfterSign, kWhole, kAfterPoint, kDecimals, kAfterMark, kAfterExpSign, kExpDigits };
     for (int offset = 0;; ++offset) {
         wchar_t const* p = text + offset;
@@ -280,10 +334,10 @@ int UnitsFormatterImp::ParseNumber(wchar_t const* text, double* value, int* flag
         int exponent = 0, found = 0, length = 0, consumed = 0;
         bool negative = false, exponentNegative = false;
         for (;;) {
-            UnitsStringDict<int const>::Match const m = m_numberTokens.Find(p + consumed);
-            if (m.value == nullptr || m.length == 0) break;
-            int const kind = *m.value - 1;
-            int const next = consumed + static_cast<int>(m.length);
+            NumberTokenMatch const m = MatchNumberToken(p + consumed);
+            if (m.kind < 0) break;
+            int const kind = m.kind;
+            int const next = consumed + m.length;
             if (kind <= 9) {
                 if (state == kStart || state == kAfterSign || state == kWhole) {
                     whole = whole * 10 + kind;

@@ -2,6 +2,8 @@
 // default units and symbols, custom symbol strings, and the format and parse drivers.
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <list>
 #include <map>
 #include <memory>
@@ -19,6 +21,8 @@ class CustomSymbol;
 class IParseSymbol;
 template <typename T>
 class UnitsOwnPtr;
+template <typename T>
+class ParseAllocator;
 class UnitsDisplayNames;
 
 // Kinds of number tokens, stored in the number-token dictionary as kind + 1.
@@ -157,13 +161,53 @@ public:
                                   int flags) const;
 
 private:
+    // Every change to the number tokens goes through these two, which keep
+    // m_asciiNumberTokens in step with the dictionary.
     void AddToken(std::wstring const& text, NumberTokenKind kind);
-    bool Tokenize(wchar_t const* text, std::list<UnitsOwnPtr<IParseSymbol const>>& list) const;
+    void EraseToken(std::wstring const& text);
+    // Erases `text` only when its longest match still carries `kind`: another setting
+    // may have taken the key over since.
+    void EraseIfStillKind(std::wstring const& text, NumberTokenKind kind);
+    void RefreshAsciiNumberTokens();
+
+    struct NumberTokenMatch {
+        int kind;    // a NumberTokenKind, or -1 when no token starts the text
+        int length;  // characters the token covers
+    };
+    // The entry of m_asciiNumberTokens for `c`; kAskNumberTokens beyond ASCII.
+    signed char AsciiNumberToken(wchar_t c) const {
+        auto const code = static_cast<std::uint32_t>(c);
+        return code < m_asciiNumberTokens.size() ? m_asciiNumberTokens[code] : kAskNumberTokens;
+    }
+    // The longest number token at the start of `text`.
+    NumberTokenMatch MatchNumberToken(wchar_t const* text) const {
+        signed char const entry = AsciiNumberToken(*text);
+        if (entry == kNoNumberToken) return {-1, 0};
+        if (entry != kAskNumberTokens) return {entry, 1};
+        return FindNumberToken(text);
+    }
+    // The dictionary's answer, for the characters the table leaves to it.
+    NumberTokenMatch FindNumberToken(wchar_t const* text) const;
+    // False when no number token starts with `c`: no number starts there either.
+    bool MayStartNumber(wchar_t c) const { return AsciiNumberToken(c) != kNoNumberToken; }
+    // ParseNumber's general reader: any token sequence, at any offset when `start` is given.
+    int ParseNumberAnywhere(wchar_t const* text, double* value, int* flags, int* start) const;
+
+    bool Tokenize(wchar_t const* text,
+                  std::list<UnitsOwnPtr<IParseSymbol const>, ParseAllocator<UnitsOwnPtr<IParseSymbol const>>>& list) const;
     bool ParseCustom(wchar_t const* text, double& baseValue, int const (&dimensions)[kDimensionCount]) const;
 
     NumberSettings m_numbers;
     int m_reserved = 3;
     UnitsStringDict<int const> m_numberTokens;
+    // For each ASCII character, what m_numberTokens answers for a text it starts:
+    // kNoNumberToken, kAskNumberTokens when longer tokens start with the character,
+    // or else the kind of the one token that is the character alone. Numbers are
+    // looked for at every position of a typed text, and most characters there start
+    // no token.
+    static constexpr signed char kNoNumberToken = -1;
+    static constexpr signed char kAskNumberTokens = -2;
+    std::array<signed char, 128> m_asciiNumberTokens{};
     CustomSymbolDict m_customSymbols;
     std::map<int, CustomSymbolData> m_customFormattingStrings;
     std::map<int, CustomSymbolData> m_customParsingStrings;

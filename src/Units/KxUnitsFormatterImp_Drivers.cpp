@@ -1,8 +1,8 @@
 // Format and Parse drivers, and custom symbol strings.
 #include "KxUnitsFormatterImp.h"
 
+#include <cstddef>
 #include <cwchar>
-#include <list>
 
 #include "KxCoreUnits/UnitsConfig.h"
 #include "KxUnitsDisplayNames.h"
@@ -14,8 +14,6 @@ namespace kxnorth::platform::core::units {
 namespace {
 
 constexpr int kSymbolPartMask = 0xFF00000;
-
-using ParseList = std::list<UnitsOwnPtr<IParseSymbol const>>;
 
 }  // namespace
 
@@ -95,7 +93,8 @@ bool ResultValue(ParseList const& list, int const (&dimensions)[kDimensionCount]
 // custom symbol's pieces around its numbers.
 bool UnitsFormatterImp::ParseCustom(wchar_t const* text, double& baseValue,
                                     int const (&dimensions)[kDimensionCount]) const {
-    ParseList list;
+    ParseArena arena;
+    ParseList list{ParseList::allocator_type(&arena)};
     CustomSymbolDict const* node = &m_customSymbols;
     std::size_t pos = 0;
     for (;;) {
@@ -113,7 +112,7 @@ bool UnitsFormatterImp::ParseCustom(wchar_t const* text, double& baseValue,
         int flags = 0;
         int const n = ParseNumber(text + pos, &number, &flags, nullptr);
         if (n <= 0) return false;
-        list.emplace_back(new NumberSymbol(number, flags), true);
+        list.push_back(MakeParseSymbol<NumberSymbol>(list, number, flags));
         pos += static_cast<std::size_t>(n);
         if (text[pos] == L'\0') break;  // the string may end with a number
     }
@@ -130,9 +129,9 @@ bool UnitsFormatterImp::Tokenize(wchar_t const* text, ParseList& list) const {
     for (std::size_t pos = 0; text[pos] != L'\0';) {
         double number = 0;
         int flags = 0;
-        int const n = ParseNumber(text + pos, &number, &flags, nullptr);
+        int const n = MayStartNumber(text[pos]) ? ParseNumber(text + pos, &number, &flags, nullptr) : 0;
         if (n > 0) {
-            list.emplace_back(new NumberSymbol(number, flags), true);
+            list.push_back(MakeParseSymbol<NumberSymbol>(list, number, flags));
             pos += static_cast<std::size_t>(n);
             continue;
         }
@@ -170,11 +169,11 @@ bool ReadParenthesisedQuantities(ParseList& list) {
                                     ParseCast<NumberSymbol>(number->Get())->GetNumber()) != 0) {
             return false;
         }
-        number->Reset(new GenericOperand(GenericConverter(base, converter.GetDimTag())), true);
+        *number = MakeParseSymbol<GenericOperand>(list, GenericConverter(base, converter.GetDimTag()));
         list.erase(std::next(number), std::next(unit));
         found = true;
     }
-    if (found) list.emplace_front(new NumberSymbol(1.0, 0), true);
+    if (found) list.push_front(MakeParseSymbol<NumberSymbol>(list, 1.0, 0));
     return found;
 }
 
@@ -185,7 +184,8 @@ int UnitsFormatterImp::Parse(wchar_t const* text, double& baseValue, int const (
     if (text == nullptr) return 2;
     if (!m_customSymbols.Empty() && ParseCustom(text, baseValue, dimensions)) return 0;
 
-    ParseList list;
+    ParseArena arena;
+    ParseList list{ParseList::allocator_type(&arena)};
     if (!Tokenize(text, list)) return 2;
     if (IParseSymbol::Calculate(list, dimensions) == 0) return ResultValue(list, dimensions, baseValue) ? 0 : 2;
     if (list.empty()) return 2;
@@ -200,7 +200,7 @@ int UnitsFormatterImp::Parse(wchar_t const* text, double& baseValue, int const (
     }
     // The list was consumed by the failed evaluation; read the text once more with
     // quantities in parentheses as operands.
-    ParseList quantities;
+    ParseList quantities{ParseList::allocator_type(&arena)};
     if (!Tokenize(text, quantities) || !ReadParenthesisedQuantities(quantities)) return 2;
     if (IParseSymbol::Calculate(quantities, dimensions) != 0) return 2;
     return ResultValue(quantities, dimensions, baseValue) ? 0 : 2;

@@ -2,15 +2,52 @@
 // mixed numbers, unit operands, operators by priority, parentheses and spaces.
 #include "KxUnitsSymbols.h"
 
+#include <algorithm>
 #include <climits>
 #include <cmath>
+#include <cstdint>
 #include <iterator>
+#include <new>
 
 #include "KxUnitsSymbols_Internal.h"
 
 namespace kxnorth::platform::core::units {
 
 using namespace symbols_detail;
+
+// ---------------------------------------------------------------------------------
+// Parse arena
+
+struct ParseArena::Block {
+    Block* previous;
+};
+
+void* ParseArena::AllocateInNewBlock(std::size_t bytes, std::size_t alignment) {
+    // The data follows the header at the alignment operator new gives; a larger
+    // alignment is found inside the block, which has room for the request at any.
+    constexpr std::size_t kAlign = alignof(std::max_align_t);
+    constexpr std::size_t kHeaderBytes = (sizeof(Block) + kAlign - 1) / kAlign * kAlign;
+    constexpr std::size_t kLargest = SIZE_MAX / 4;
+    if (bytes > kLargest || alignment > kLargest) throw std::bad_alloc();
+    // Each block at least doubles the last, so that a long text takes few of them.
+    std::size_t const grown = m_lastBlockBytes <= kLargest ? 2 * m_lastBlockBytes : m_lastBlockBytes;
+    std::size_t const dataBytes = std::max(grown, bytes + alignment);
+    auto* block = static_cast<Block*>(::operator new(kHeaderBytes + dataBytes));
+    block->previous = m_blocks;
+    m_blocks = block;
+    m_lastBlockBytes = dataBytes;
+    m_next = reinterpret_cast<std::uintptr_t>(block) + kHeaderBytes;
+    m_end = m_next + dataBytes;
+    return Allocate(bytes, alignment);
+}
+
+void ParseArena::FreeBlocks() {
+    while (m_blocks != nullptr) {
+        Block* const previous = m_blocks->previous;
+        ::operator delete(m_blocks);
+        m_blocks = previous;
+    }
+}
 
 // ---------------------------------------------------------------------------------
 // Shared helpers
@@ -37,7 +74,7 @@ int ToBase(int unit, double value, DimensionVector const* dims, GenericConverter
 int ReduceToResult(ParseList& list, int unit, double value, DimensionVector const* dims) {
     GenericConverter result;
     if (ToBase(unit, value, dims, result) != 0) return 1;
-    list.front().Reset(new ResultSymbol(result), true);
+    list.front() = MakeParseSymbol<ResultSymbol>(list, result);
     list.erase(std::next(list.begin()), list.end());
     return 0;
 }
@@ -46,12 +83,17 @@ bool ReadNumberRun(ParseIterator first, ParseIterator last, int shapes, RunValue
     // At most a carried number, a whole part, a numerator, the slash and a denominator.
     constexpr int kLongestRun = 5;
     IParseSymbol const* elements[kLongestRun];
+    NumberSymbol const* numbers[kLongestRun];  // each element asked once: the question is a virtual call
     int count = 0;
     for (ParseIterator p = first; p != last; ++p) {
         if (count == kLongestRun) return false;
-        elements[count++] = p->Get();
+        elements[count] = p->Get();
+        numbers[count] = ParseCast<NumberSymbol>(elements[count]);
+        // Only the first element may be a carried number.
+        if (count > 0 && numbers[count] != nullptr && (numbers[count]->GetFlags() & eNSCarried) != 0) return false;
+        ++count;
     }
-    auto numberAt = [&](int i) { return ParseCast<NumberSymbol>(elements[i]); };
+    auto numberAt = [&](int i) { return numbers[i]; };
 
     int start = 0;
     NumberSymbol const* carried = nullptr;
@@ -83,10 +125,6 @@ bool ReadNumberRun(ParseIterator first, ParseIterator last, int shapes, RunValue
     } else {
         return false;
     }
-    for (int i = start; i < count; ++i) {
-        NumberSymbol const* n = numberAt(i);
-        if (n != nullptr && (n->GetFlags() & eNSCarried) != 0) return false;
-    }
     bool negative = lead->IsNegative();
     if (carried != nullptr) {
         if (negative) return false;
@@ -100,14 +138,14 @@ bool ReadNumberRun(ParseIterator first, ParseIterator last, int shapes, RunValue
 
 void ReplaceRunByCarried(ParseList& list, ParseIterator last, double value, bool negative) {
     int const flags = eNSCarried | (negative ? eNSNegativeSign : 0);
-    list.front().Reset(new NumberSymbol(value, flags), true);
+    list.front() = MakeParseSymbol<NumberSymbol>(list, value, flags);
     list.erase(std::next(list.begin()), last);
 }
 
-void DropSeparatorSign(ParseIterator number) {
+void DropSeparatorSign(ParseList& list, ParseIterator number) {
     NumberSymbol const* n = As<NumberSymbol>(number);
     if (n == nullptr || (n->GetFlags() & eNSNegativeSign) == 0) return;
-    number->Reset(new NumberSymbol(std::fabs(n->GetNumber()), n->GetFlags() & ~eNSNegativeSign), true);
+    *number = MakeParseSymbol<NumberSymbol>(list, std::fabs(n->GetNumber()), n->GetFlags() & ~eNSNegativeSign);
 }
 
 }  // namespace symbols_detail
@@ -146,7 +184,7 @@ int OperandSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand,
             UnitConverter const& converter = GetConverter();
             double base = 0.0;
             if (converter.ConvertToBase(&base, converter.GetDimTag(), number->GetNumber()) != 0) return 1;
-            list.front().Reset(new ResultSymbol(GenericConverter(base, converter.GetDimTag())), true);
+            list.front() = MakeParseSymbol<ResultSymbol>(list, GenericConverter(base, converter.GetDimTag()));
             list.erase(self);
             return 0;
         }
@@ -162,7 +200,7 @@ int OperandSymbol::DoCalc(ParseList& list, ParseIterator& it) const {
     double base = 0.0;
     if (converter.ConvertToBase(&base, converter.GetDimTag(), amount.value) != 0) return 1;
     GenericConverter const result(base, converter.GetDimTag());
-    list.front().Reset(new ResultSymbol(result), true);
+    list.front() = MakeParseSymbol<ResultSymbol>(list, result);
     list.erase(std::next(list.begin()), list.end());
     it = list.end();
     return 0;
@@ -188,8 +226,6 @@ int ResultSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, 
 NumberSymbol::NumberSymbol(double value, int flags) : m_value(value), m_flags(flags) {}
 NumberSymbol::~NumberSymbol() = default;
 
-bool NumberSymbol::IsNegative() const { return (m_flags & eNSNegativeSign) != 0 || std::signbit(m_value); }
-
 int NumberSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const {
     ParseIterator const self = it;
     ++it;
@@ -200,7 +236,7 @@ int NumberSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, 
         // subtraction, so the sign has no other reading. After a space (`5 -1/2`) it
         // stays a sign and the mixed number is refused.
         if (it != list.end() && std::next(it) != list.end() && As<DivisionSymbol>(std::next(it)) != nullptr) {
-            DropSeparatorSign(it);
+            DropSeparatorSign(list, it);
         }
         return 0;
     }
@@ -212,7 +248,7 @@ int NumberSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, 
 int NumberSymbol::DoCalc(ParseList& list, ParseIterator& it, DimensionVector const& dims) const {
     RunValue amount;
     if (!ReadNumberRun(list.begin(), std::next(it), eRunFraction | eRunMixed, amount)) return 1;
-    list.front().Reset(new ResultSymbol(GenericConverter(amount.value, dims)), true);
+    list.front() = MakeParseSymbol<ResultSymbol>(list, GenericConverter(amount.value, dims));
     list.erase(std::next(list.begin()), list.end());
     it = list.end();
     return 0;
@@ -266,7 +302,7 @@ void ReplaceLeft(ParseList& list, ParseIterator& it, GenericConverter const& res
     ParseIterator const left = std::prev(it);
     ParseIterator const self = it;
     ParseIterator const end = std::next(self, 1 + erasedAfter);
-    left->Reset(new GenericOperand(result), true);
+    *left = MakeParseSymbol<GenericOperand>(list, result);
     it = left;
     list.erase(self, end);
 }
@@ -398,7 +434,7 @@ int SpaceSymbol::Calculate(ParseList& list, ParseIterator& it, bool, DimensionVe
     bool const operandOnRight = next != list.end() && As<OperandSymbol>(next) != nullptr;
     it = next;
     if ((self == list.begin() || operandOnLeft) && operandOnRight) {
-        self->Reset(new MultiplicationSymbol, true);
+        *self = MakeParseSymbol<MultiplicationSymbol>(list);
     } else {
         list.erase(self);
     }

@@ -220,7 +220,7 @@ int BasicDegreePrimeDoublePrimeSymbol<GenericBase>::ParseNumber(ParseList& list,
     UnitConverter const& converter = this->GetConverter();
     double base = 0.0;
     if (converter.ConvertToBase(&base, converter.GetDimTag(), angle) != 0) return 1;
-    list.front().Reset(new ResultSymbol(GenericConverter(base, converter.GetDimTag())), true);
+    list.front() = MakeParseSymbol<ResultSymbol>(list, GenericConverter(base, converter.GetDimTag()));
     list.erase(std::next(list.begin()), p);
     return 0;
 }
@@ -282,7 +282,7 @@ constexpr int kAnyAmount = eRunWhole | eRunFraction | eRunMixed;
 // becomes seconds of arc and the mark a double prime. The mark itself may be deleted.
 void HandToBearing(ParseList& list, ParseIterator mark, RunValue const& amount, double secondsPerUnit) {
     ReplaceRunByCarried(list, mark, amount.value * secondsPerUnit, amount.negative);
-    if (As<DoublePrimeSymbol>(mark) == nullptr) mark->Reset(new DoublePrimeSymbol, true);
+    if (As<DoublePrimeSymbol>(mark) == nullptr) *mark = MakeParseSymbol<DoublePrimeSymbol>(list);
 }
 
 }  // namespace
@@ -327,7 +327,7 @@ int PrimeSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, D
         // for a sign: the part after a mark has no sign of its own. With a space
         // before it (`5' -6"`) it stays a sign, and the reading fails.
         ParseIterator const next = std::next(it);
-        if (next != list.end()) DropSeparatorSign(next);
+        if (next != list.end()) DropSeparatorSign(list, next);
         it = next;
         return 0;
     }
@@ -359,7 +359,7 @@ int PrimeSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, D
     ParseIterator const end = EndOfPart(list, next);
     if (end == next || (end != list.end() && As<DoublePrimeSymbol>(end) == nullptr)) return 1;
     ReplaceRunByCarried(list, mark, amount.value * partsPerUnit, amount.negative);
-    if (end == list.end()) list.emplace_back(new DoublePrimeSymbol, true);
+    if (end == list.end()) list.push_back(MakeParseSymbol<DoublePrimeSymbol>(list));
     it = next;
     list.erase(mark);
     return 0;
@@ -398,12 +398,12 @@ int DoublePrimeSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOper
 namespace {
 
 // Replaces the letter at `it` by an operand of `unit`; `it` moves on.
-int BecomeOperand(ParseIterator& it, int unit) {
+int BecomeOperand(ParseList& list, ParseIterator& it, int unit) {
     UnitConverter const* converter = UnitsConfig::GetInstance()->FindConverter(unit);
     if (converter == nullptr) return 1;
     ParseIterator const self = it;
     ++it;
-    self->Reset(new GenericOperand(CopyConverter(*converter)), true);
+    *self = MakeParseSymbol<GenericOperand>(list, CopyConverter(*converter));
     return 0;
 }
 
@@ -411,20 +411,20 @@ int BecomeOperand(ParseIterator& it, int unit) {
 
 DSymbol::~DSymbol() = default;
 
-int DSymbol::Calculate(ParseList&, ParseIterator& it, bool asOperand, DimensionVector const& dims) const {
+int DSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const {
     if (!asOperand) return 1;
-    if (!AllDimensionsZero(dims)) return BecomeOperand(it, kDay);
+    if (!AllDimensionsZero(dims)) return BecomeOperand(list, it, kDay);
     ParseIterator const self = it;
     ++it;
-    self->Reset(new DegreeSymbol, true);
+    *self = MakeParseSymbol<DegreeSymbol>(list);
     return 0;
 }
 
 GSymbol::~GSymbol() = default;
 
-int GSymbol::Calculate(ParseList&, ParseIterator& it, bool asOperand, DimensionVector const& dims) const {
+int GSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const {
     if (!asOperand) return 1;
-    return BecomeOperand(it, AllDimensionsZero(dims) ? kGrad : kGram);
+    return BecomeOperand(list, it, AllDimensionsZero(dims) ? kGrad : kGram);
 }
 
 // ---------------------------------------------------------------------------------
@@ -447,9 +447,9 @@ int OpenBearing(ParseList& list, ParseIterator& it, DimensionVector const& dims,
     EastSymbol const* east = As<EastSymbol>(last);
     WestSymbol const* west = As<WestSymbol>(last);
     if (east != nullptr && east->GetReference() == BearingReference::eNone) {
-        last->Reset(new EastSymbol(reference), true);
+        *last = MakeParseSymbol<EastSymbol>(list, reference);
     } else if (west != nullptr && west->GetReference() == BearingReference::eNone) {
-        last->Reset(new WestSymbol(reference), true);
+        *last = MakeParseSymbol<WestSymbol>(list, reference);
     } else {
         return 1;
     }
@@ -491,7 +491,7 @@ NorthSymbol::~NorthSymbol() = default;
 
 int NorthSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const {
     if (asOperand) {
-        if (!AllDimensionsZero(dims)) return BecomeOperand(it, kNewton);
+        if (!AllDimensionsZero(dims)) return BecomeOperand(list, it, kNewton);
         ++it;
         return 0;
     }
@@ -502,7 +502,7 @@ SouthSymbol::~SouthSymbol() = default;
 
 int SouthSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const {
     if (asOperand) {
-        if (!AllDimensionsZero(dims)) return BecomeOperand(it, kSiemens);
+        if (!AllDimensionsZero(dims)) return BecomeOperand(list, it, kSiemens);
         ++it;
         return 0;
     }
@@ -525,7 +525,7 @@ WestSymbol::~WestSymbol() = default;
 
 int WestSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const {
     if (asOperand) {
-        if (!AllDimensionsZero(dims)) return BecomeOperand(it, kWatt);
+        if (!AllDimensionsZero(dims)) return BecomeOperand(list, it, kWatt);
         ++it;
         return 0;
     }

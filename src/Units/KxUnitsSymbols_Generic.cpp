@@ -48,7 +48,7 @@ int ParseLeadingNumber(UnitConverter const& converter, ParseList& list, int form
     if (number == nullptr) return 1;
     double base = 0.0;
     if (converter.ConvertToBase(&base, converter.GetDimTag(), number->GetNumber()) != 0) return 1;
-    list.front().Reset(new ResultSymbol(GenericConverter(base, converter.GetDimTag())), true);
+    list.front() = MakeParseSymbol<ResultSymbol>(list, GenericConverter(base, converter.GetDimTag()));
     return 0;
 }
 
@@ -209,7 +209,7 @@ int BasicLinearSymbol<TextBase>::Calculate(ParseList& list, ParseIterator& it, b
         if (number == nullptr) return 1;
         GenericConverter result;
         if (ToBase(m_unitSymbol, number->GetNumber(), nullptr, result) != 0) return 1;
-        numberAt->Reset(new ResultSymbol(result), true);
+        *numberAt = MakeParseSymbol<ResultSymbol>(list, result);
         list.erase(it);
         it = numberAt;
         return 0;
@@ -225,7 +225,7 @@ int BasicLinearSymbol<TextBase>::Calculate(ParseList& list, ParseIterator& it, b
     if (!operand) return 0;
     UnitConverter const* difference = UnitsConfig::GetInstance()->FindConverter(m_operandUnitSymbol);
     if (difference == nullptr) return 1;
-    self->Reset(new GenericOperand(CopyConverter(*difference)), true);
+    *self = MakeParseSymbol<GenericOperand>(list, CopyConverter(*difference));
     return 0;
 }
 

@@ -85,7 +85,7 @@ void ReplaceRunByCarried(ParseList& list, ParseIterator last, double value, bool
 
 // Replaces the number at `number`, when it has a minus sign, by its unsigned copy: the
 // sign was a separator the writers put there (see the callers for where that holds).
-void DropSeparatorSign(ParseIterator number);
+void DropSeparatorSign(ParseList& list, ParseIterator number);
 
 // Writes text into a caller's buffer of fixed size. Numbers are written by the
 // formatter with their terminator; the next character overwrites that terminator.

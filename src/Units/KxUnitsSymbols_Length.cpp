@@ -262,7 +262,7 @@ int BasicPrimeDoublePrimeSymbol<GenericBase>::ParseNumber(ParseList& list, int f
     UnitConverter const& converter = this->GetConverter();
     double base = 0.0;
     if (converter.ConvertToBase(&base, converter.GetDimTag(), inches) != 0) return 1;
-    list.front().Reset(new ResultSymbol(GenericConverter(base, converter.GetDimTag())), true);
+    list.front() = MakeParseSymbol<ResultSymbol>(list, GenericConverter(base, converter.GetDimTag()));
     list.erase(std::next(list.begin()), p);
     return 0;
 }
@@ -371,7 +371,7 @@ int DashSymbol::Calculate(ParseList& list, ParseIterator& it, bool, DimensionVec
     if (As<OperandSymbol>(right) != nullptr) {
         ParseIterator const first = std::next(left);
         it = right;
-        first->Reset(new MultiplicationSymbol, true);  // `ft-lbf` is `ft·lbf`
+        *first = MakeParseSymbol<MultiplicationSymbol>(list);  // `ft-lbf` is `ft·lbf`
         list.erase(std::next(first), right);
         return 0;
     }

@@ -181,3 +181,27 @@ TEST_F(TypedInput, CustomStringBracesAndOrder) {
     ASSERT_EQ(formatter.Parse(L"{6.50in 5ft}", value, kInch), 0);
     EXPECT_NEAR(value, 66.5, 1e-12);
 }
+
+TEST_F(TypedInput, LongTextsReadLikeShortOnes) {
+    // Thousands of separating spaces outgrow the reader's fixed working memory.
+    std::wstring const text = L"2.5" + std::wstring(3000, L' ') + L"m";
+    double value = 0;
+    ASSERT_EQ(formatter.Parse(text.c_str(), value, kMeter), 0);
+    EXPECT_DOUBLE_EQ(value, 2.5);
+    std::wstring garbage(5000, L'(');
+    EXPECT_EQ(formatter.Parse(garbage.c_str(), value, kMeter), 2);
+}
+
+TEST_F(TypedInput, NumbersFollowTheFormattersSigns) {
+    units::UnitsFormatter f(L"en-US");
+    f.SetNegativeSign(L"--");
+    wchar_t const arabic[10] = {0x660, 0x661, 0x662, 0x663, 0x664, 0x665, 0x666, 0x667, 0x668, 0x669};
+    ASSERT_EQ(f.SetNativeDigits(arabic), 0);
+    wchar_t text[32];
+    ASSERT_EQ(f.Format(-12.5, kMeter, text, 32, 0x202001, nullptr), 0);
+    EXPECT_STREQ(text, L"--\u0661\u0662.\u0665\u0660 m");
+    double value = 0;
+    ASSERT_EQ(f.Parse(text, value, kMeter), 0);
+    EXPECT_DOUBLE_EQ(value, -12.5);
+    EXPECT_EQ(f.Parse(L"-12.5 m", value, kMeter), 2) << "a lone hyphen is no longer a sign";
+}
