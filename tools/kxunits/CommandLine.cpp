@@ -6,23 +6,23 @@ namespace kxunits {
 
 namespace {
 
-OptionSpec const* FindOption(CommandSpec const& spec, QString const& name) {
-    for (OptionSpec const& option : spec.options) {
+OptionSpec const* FindOption(CommandSpec const& command, QString const& name) {
+    for (OptionSpec const& option : command.options) {
         if (name == QLatin1String(option.name)) return &option;
     }
     return nullptr;
 }
 
-QString OptionList(CommandSpec const& spec) {
+QString OptionList(CommandSpec const& command) {
     QStringList names;
-    for (OptionSpec const& option : spec.options) names << QLatin1String(option.name);
+    for (OptionSpec const& option : command.options) names << QLatin1String(option.name);
     names << QStringLiteral("--help");
     return names.join(QStringLiteral(", "));
 }
 
 }  // namespace
 
-QString ParseArguments(CommandSpec const& spec, QStringList const& args, Arguments& out) {
+QString ParseArguments(CommandSpec const& command, QStringList const& args, Arguments& out) {
     out = Arguments();
     for (QString const& arg : args) {
         if (arg == QLatin1String("--")) break;
@@ -45,16 +45,16 @@ QString ParseArguments(CommandSpec const& spec, QStringList const& args, Argumen
         }
         qsizetype const equals = arg.indexOf(QLatin1Char('='));
         QString const name = equals < 0 ? arg : arg.left(equals);
-        OptionSpec const* option = FindOption(spec, name);
+        OptionSpec const* option = FindOption(command, name);
         if (option == nullptr) {
             return QStringLiteral("%1: unknown option %2 (options: %3)")
-                .arg(QLatin1String(spec.name), name, OptionList(spec));
+                .arg(QLatin1String(command.name), name, OptionList(command));
         }
         if (out.options.contains(name)) {
-            return QStringLiteral("%1: %2 given twice").arg(QLatin1String(spec.name), name);
+            return QStringLiteral("%1: %2 given twice").arg(QLatin1String(command.name), name);
         }
         if (option->valueName == nullptr) {
-            if (equals >= 0) return QStringLiteral("%1: %2 takes no value").arg(QLatin1String(spec.name), name);
+            if (equals >= 0) return QStringLiteral("%1: %2 takes no value").arg(QLatin1String(command.name), name);
             out.options.insert(name, QString());
         } else if (equals >= 0) {
             out.options.insert(name, arg.mid(equals + 1));
@@ -62,31 +62,31 @@ QString ParseArguments(CommandSpec const& spec, QStringList const& args, Argumen
             out.options.insert(name, args[++i]);
         } else {
             return QStringLiteral("%1: %2 needs a value (%2 %3)")
-                .arg(QLatin1String(spec.name), name, QLatin1String(option->valueName));
+                .arg(QLatin1String(command.name), name, QLatin1String(option->valueName));
         }
     }
 
     qsizetype const count = out.positionals.size();
-    if (count < spec.minPositionals) {
+    if (count < command.minPositionals) {
         return QStringLiteral("%1: missing arguments; usage: kxunits %1 %2")
-            .arg(QLatin1String(spec.name), QLatin1String(spec.arguments));
+            .arg(QLatin1String(command.name), QLatin1String(command.arguments));
     }
-    if (count > spec.maxPositionals) {
+    if (count > command.maxPositionals) {
         return QStringLiteral("%1: too many arguments (%2 given, at most %3); usage: kxunits %1 %4")
-            .arg(QLatin1String(spec.name))
+            .arg(QLatin1String(command.name))
             .arg(count)
-            .arg(spec.maxPositionals)
-            .arg(QLatin1String(spec.arguments));
+            .arg(command.maxPositionals)
+            .arg(QLatin1String(command.arguments));
     }
     return QString();
 }
 
-QString HelpText(CommandSpec const& spec) {
+QString HelpText(CommandSpec const& command) {
     QString text = QStringLiteral("Usage: kxunits %1 %2 [OPTIONS]\n\n%3\n")
-                       .arg(QLatin1String(spec.name), QLatin1String(spec.arguments), QString::fromUtf8(spec.summary));
+                       .arg(QLatin1String(command.name), QLatin1String(command.arguments), QString::fromUtf8(command.summary));
     text += QStringLiteral("\nOptions:\n");
     int width = 6;  // "--help"
-    for (OptionSpec const& option : spec.options) {
+    for (OptionSpec const& option : command.options) {
         int const w = static_cast<int>(qstrlen(option.name)) +
                       (option.valueName ? 1 + static_cast<int>(qstrlen(option.valueName)) : 0);
         width = std::max(width, w);
@@ -94,13 +94,13 @@ QString HelpText(CommandSpec const& spec) {
     auto line = [&](QString const& left, char const* help) {
         text += QStringLiteral("  ") + left.leftJustified(width + 2) + QString::fromUtf8(help) + QLatin1Char('\n');
     };
-    for (OptionSpec const& option : spec.options) {
+    for (OptionSpec const& option : command.options) {
         QString left = QLatin1String(option.name);
         if (option.valueName) left += QLatin1Char(' ') + QLatin1String(option.valueName);
         line(left, option.help);
     }
     line(QStringLiteral("--help"), "show this help");
-    if (spec.details) text += QLatin1Char('\n') + QString::fromUtf8(spec.details);
+    if (command.details) text += QLatin1Char('\n') + QString::fromUtf8(command.details);
     if (!text.endsWith(QLatin1Char('\n'))) text += QLatin1Char('\n');
     return text;
 }

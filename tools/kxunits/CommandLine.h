@@ -39,9 +39,9 @@ struct Arguments {
 // including "-1.5" and "-6\"", is positional, and "--" ends the options. "-h" and
 // "--help" ask for help and skip the checks. Returns the error text, empty when `out`
 // is complete.
-QString ParseArguments(CommandSpec const& spec, QStringList const& args, Arguments& out);
+QString ParseArguments(CommandSpec const& command, QStringList const& args, Arguments& out);
 
 // Usage line, summary, options and details of one command.
-QString HelpText(CommandSpec const& spec);
+QString HelpText(CommandSpec const& command);
 
 }  // namespace kxunits

@@ -10,7 +10,7 @@ namespace kxunits {
 class Session;
 
 struct Command {
-    CommandSpec spec;
+    CommandSpec syntax;
     int (*run)(Session& session, Arguments const& args);  // returns the exit code
 };
 

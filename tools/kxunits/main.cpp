@@ -22,8 +22,8 @@ QString MainHelp() {
         "between units, in the locales whose translations are installed.\n\n"
         "Commands:\n");
     for (Command const& command : AllCommands()) {
-        QString const left = QLatin1String(command.spec.name) + QLatin1Char(' ') + QLatin1String(command.spec.arguments);
-        text += QStringLiteral("  ") + left.leftJustified(20) + QString::fromUtf8(command.spec.summary) + QLatin1Char('\n');
+        QString const left = QLatin1String(command.syntax.name) + QLatin1Char(' ') + QLatin1String(command.syntax.arguments);
+        text += QStringLiteral("  ") + left.leftJustified(20) + QString::fromUtf8(command.syntax.summary) + QLatin1Char('\n');
     }
     text += QStringLiteral(
         "\nUnits, symbols and groups are named by global name (Foot, Length,\n"
@@ -36,7 +36,7 @@ QString MainHelp() {
 
 Command const* FindCommand(QString const& name) {
     for (Command const& command : AllCommands()) {
-        if (name == QLatin1String(command.spec.name)) return &command;
+        if (name == QLatin1String(command.syntax.name)) return &command;
     }
     return nullptr;
 }
@@ -51,7 +51,7 @@ int Main(QStringList args) {
     if (first == QLatin1String("--help") || first == QLatin1String("-h") || first == QLatin1String("help")) {
         if (!args.isEmpty()) {
             if (Command const* command = FindCommand(args.front())) {
-                Write(stdout, HelpText(command->spec));
+                Write(stdout, HelpText(command->syntax));
                 return kExitOk;
             }
             Error(QStringLiteral("help: unknown command %1").arg(Quoted(args.front())));
@@ -67,20 +67,20 @@ int Main(QStringList args) {
     Command const* command = FindCommand(first);
     if (command == nullptr) {
         QStringList names;
-        for (Command const& c : AllCommands()) names << QLatin1String(c.spec.name);
+        for (Command const& c : AllCommands()) names << QLatin1String(c.syntax.name);
         Error(QStringLiteral("unknown command %1; the commands are %2 ('kxunits --help')")
                   .arg(Quoted(first), names.join(QStringLiteral(", "))));
         return kExitBadInput;
     }
 
     Arguments parsed;
-    QString const error = ParseArguments(command->spec, args, parsed);
+    QString const error = ParseArguments(command->syntax, args, parsed);
     if (!error.isEmpty()) {
         Error(error);
         return kExitBadInput;
     }
     if (parsed.help) {
-        Write(stdout, HelpText(command->spec));
+        Write(stdout, HelpText(command->syntax));
         return kExitOk;
     }
     Session session;
