@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <cwchar>
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <utility>
@@ -32,8 +34,15 @@ public:
         const_iterator end() const { return m_entries.end(); }
         bool empty() const { return m_entries.empty(); }
         std::size_t size() const { return m_entries.size(); }
-        void clear() { m_entries.clear(); }
-        iterator erase(iterator it) { return m_entries.erase(it); }
+        void clear() {
+            m_entries.clear();
+            m_ascii.reset();
+        }
+        iterator erase(iterator it) {
+            auto const next = m_entries.erase(it) - m_entries.begin();
+            Reindex();
+            return m_entries.begin() + next;
+        }
 
         iterator find(wchar_t c) { return m_entries.begin() + (Find(c) - m_entries.cbegin()); }
         const_iterator find(wchar_t c) const { return Find(c); }
@@ -41,15 +50,39 @@ public:
             auto at = std::lower_bound(m_entries.begin(), m_entries.end(), c,
                                        [](Entry const& e, wchar_t key) { return e.first < key; });
             m_entries.emplace(at, c, std::move(node));
+            Reindex();
         }
 
     private:
+        // Wide branches (the parse dictionary's first characters) also index their
+        // ASCII entries directly: that lookup runs at every position of every parse.
+        static constexpr std::size_t kIndexFrom = 16;
+        static constexpr std::uint16_t kAbsent = 0xFFFF;
+
+        void Reindex() {
+            if (m_entries.size() < kIndexFrom || m_entries.size() >= kAbsent) {
+                m_ascii.reset();
+                return;
+            }
+            if (!m_ascii) m_ascii = std::make_unique<std::array<std::uint16_t, 128>>();
+            m_ascii->fill(kAbsent);
+            for (std::size_t i = 0; i < m_entries.size(); ++i) {
+                wchar_t const c = m_entries[i].first;
+                if (c >= 0 && c < 128) (*m_ascii)[static_cast<std::size_t>(c)] = static_cast<std::uint16_t>(i);
+            }
+        }
+
         const_iterator Find(wchar_t c) const {
+            if (m_ascii && c >= 0 && c < 128) {
+                std::uint16_t const i = (*m_ascii)[static_cast<std::size_t>(c)];
+                return i == kAbsent ? m_entries.cend() : m_entries.cbegin() + i;
+            }
             auto at = std::lower_bound(m_entries.cbegin(), m_entries.cend(), c,
                                        [](Entry const& e, wchar_t key) { return e.first < key; });
             return at != m_entries.cend() && at->first == c ? at : m_entries.cend();
         }
         std::vector<Entry> m_entries;
+        std::unique_ptr<std::array<std::uint16_t, 128>> m_ascii;
     };
 
     // A node either passes on through a run of characters to its single child (a run
