@@ -71,26 +71,23 @@ TEST(QStringToWchar2Death, NullDestinationIsAProgrammingError) {
 
 TEST(LookupsByGlobalName, FindKnownNamesAndRefuseOthers) {
     kxp::IDesignPropertyUnits::teGroup group{};
-    EXPECT_EQ(StringUtil::GetUnitGroup(QStringLiteral("Length"), group), units::eEOk);
-    EXPECT_EQ(group, 0x2000);
-    EXPECT_EQ(StringUtil::GetUnitGroup(QStringLiteral("LinearWeight"), group), units::eEOk);
-    EXPECT_EQ(group, 0x6000);
-
     kxp::IDesignPropertyUnits::teType type{};
+    units::UnitSymbol symbol{};
+    units::NumberFormat format{};
+    for (auto [name, id] : {std::pair{"Length", 0x2000}, {"LinearWeight", 0x6000}}) {
+        EXPECT_EQ(StringUtil::GetUnitGroup(QString::fromLatin1(name), group), units::eEOk);
+        EXPECT_EQ(group, id);
+    }
     EXPECT_EQ(StringUtil::GetUnitType(QStringLiteral("FootUSSurvey"), type), units::eEOk);
     EXPECT_EQ(type, 0x201C);
-
-    units::UnitSymbol symbol{};
-    EXPECT_EQ(StringUtil::GetUnitSymbol(QStringLiteral("mPers2"), symbol), units::eEOk);
-    EXPECT_EQ(symbol, 0x230001);
-    EXPECT_EQ(StringUtil::GetUnitSymbol(QStringLiteral("mil_SwedenNorway"), symbol), units::eEOk);
-    EXPECT_EQ(symbol, 0x302036);
-
-    units::NumberFormat format{};
-    EXPECT_EQ(StringUtil::GetNumberFormatId(QStringLiteral("exponential"), format), units::eEOk);
-    EXPECT_EQ(format, units::eNFExponentialLower);
-    EXPECT_EQ(StringUtil::GetNumberFormatId(QStringLiteral("Exponential"), format), units::eEOk);
-    EXPECT_EQ(format, units::eNFExponential);
+    for (auto [name, id] : {std::pair{"mPers2", 0x230001}, {"mil_SwedenNorway", 0x302036}}) {
+        EXPECT_EQ(StringUtil::GetUnitSymbol(QString::fromLatin1(name), symbol), units::eEOk);
+        EXPECT_EQ(symbol, id);
+    }
+    for (auto [name, id] : {std::pair{"exponential", units::eNFExponentialLower}, {"Exponential", units::eNFExponential}}) {
+        EXPECT_EQ(StringUtil::GetNumberFormatId(QString::fromLatin1(name), format), units::eEOk);
+        EXPECT_EQ(format, id);
+    }
 }
 
 TEST(LookupsByGlobalName, EmptyOrUnknownNamesLeaveTheOutputAlone) {

@@ -5,8 +5,6 @@
 #include <QCoreApplication>
 #include <QLocale>
 #include <QTemporaryDir>
-#include <algorithm>
-#include <cwchar>
 #include <string>
 
 #include "KxCoreUnitsUI/LocaleUtil.h"
@@ -126,27 +124,17 @@ TEST_F(UnitsManagerTest, LocaleBecomesQtDefaultAndNamesItsLanguage) {
     }
 }
 
+// Both getters hand their text to the bounded copy (tested at every capacity with
+// the string utilities); here only that they do.
 TEST_F(UnitsManagerTest, GettersTruncateAndAlwaysTerminate) {
     ASSERT_TRUE(SetLocale("en-US") && SetPath("/opt/kx"));
     EXPECT_EQ(Mgr()->GetCurrentLocale(nullptr, 0), 5);
     EXPECT_EQ(Mgr()->GetTranslatorFilesPath(nullptr, 0), 7);
-    struct Case {
-        int capacity;
-        int expectedCount;
-        wchar_t const* expectedText;
-    } const cases[] = {{-1, 5, L"en-US"}, {6, 5, L"en-US"}, {5, 4, L"en-U"}, {3, 2, L"en"}, {1, 0, L""}, {0, 0, L""}};
-    for (Case const& c : cases) {
-        SCOPED_TRACE(c.capacity);
-        wchar_t buffer[8];
-        std::wmemset(buffer, L'#', 8);
-        EXPECT_EQ(Mgr()->GetCurrentLocale(buffer, c.capacity), c.expectedCount);
-        EXPECT_STREQ(buffer, c.expectedText);
-        int const written = c.capacity == -1 ? c.expectedCount + 1 : std::max(c.capacity, 1);
-        for (int i = written; i < 8; ++i) EXPECT_EQ(buffer[i], L'#') << "wrote past the capacity at " << i;
-    }
-    wchar_t path[4];
-    EXPECT_EQ(Mgr()->GetTranslatorFilesPath(path, 4), 3);
-    EXPECT_STREQ(path, L"/op");
+    wchar_t buffer[8];
+    EXPECT_EQ(Mgr()->GetCurrentLocale(buffer, 5), 4);
+    EXPECT_STREQ(buffer, L"en-U");
+    EXPECT_EQ(Mgr()->GetTranslatorFilesPath(buffer, 4), 3);
+    EXPECT_STREQ(buffer, L"/op");
 }
 
 TEST_F(UnitsManagerTranslationTest, PathChangesReloadAndAMissingFileKeepsTheLastOne) {

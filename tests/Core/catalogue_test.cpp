@@ -144,36 +144,16 @@ struct Relation {
 TEST(CatalogueFactors, AgreeWithTheirDefinitions) {
     double const pi = 3.14159265358979323846;
     Relation const relations[] = {
-        {L"Inch", 0.0254},
-        {L"Foot", 0.3048},
-        {L"FootUSSurvey", 1200.0 / 3937.0},
-        {L"Yard", 0.9144},
-        {L"Mile", 1609.344},
-        {L"NauticalMile", 1852},
-        {L"Acre", 4046.8564224},
-        {L"Liter", 1e-3},
-        {L"GallonUSFluidWine", 3.785411784e-3},
-        {L"GallonImperial", 4.54609e-3},
-        {L"CubicFoot", 0.028316846592},
-        {L"Pound", 0.45359237},
-        {L"OunceAvoirdupois", 0.028349523125},
-        {L"PoundForce", 4.4482216152605},
-        {L"Kip", 4448.2216152605},
-        {L"PoundPerSquareInch", 6894.757293168361},
-        {L"Bar", 1e5},
-        {L"BritishThermalUnitInternationalTable", 1055.05585262},
-        {L"CalorieThermochemical", 4.184},
-        {L"KilowattHour", 3.6e6},
-        {L"HorsepowerImperialMechanical", 745.69987158227022},
-        {L"Radian", 1},
-        {L"Degree", pi / 180},
-        {L"Grad", pi / 200},
-        {L"AngularMilNATO", 2 * pi / 6400},
-        {L"Day", 86400},
-        {L"Hour", 3600},
-        {L"Kelvin", 1},
-        {L"DegreeRankine", 5.0 / 9.0},
-        {L"Steradian", 1},
+        {L"Inch", 0.0254}, {L"Foot", 0.3048}, {L"FootUSSurvey", 1200.0 / 3937.0}, {L"Yard", 0.9144},
+        {L"Mile", 1609.344}, {L"NauticalMile", 1852}, {L"Acre", 4046.8564224}, {L"Liter", 1e-3},
+        {L"GallonUSFluidWine", 3.785411784e-3}, {L"GallonImperial", 4.54609e-3}, {L"CubicFoot", 0.028316846592},
+        {L"Pound", 0.45359237}, {L"OunceAvoirdupois", 0.028349523125}, {L"PoundForce", 4.4482216152605},
+        {L"Kip", 4448.2216152605}, {L"PoundPerSquareInch", 6894.757293168361}, {L"Bar", 1e5},
+        {L"BritishThermalUnitInternationalTable", 1055.05585262}, {L"CalorieThermochemical", 4.184},
+        {L"KilowattHour", 3.6e6}, {L"HorsepowerImperialMechanical", 745.69987158227022}, {L"Radian", 1},
+        {L"Degree", pi / 180}, {L"Grad", pi / 200}, {L"AngularMilNATO", 2 * pi / 6400}, {L"Day", 86400},
+        {L"Hour", 3600}, {L"Kelvin", 1}, {L"DegreeRankine", 5.0 / 9.0}, {L"Steradian", 1},
+        {L"YearJulian", 365.25 * 86400}, {L"YearGregorian", 365.2425 * 86400},
     };
     for (Relation const& r : relations) {
         SCOPED_TRACE(std::wstring(r.unit).size());
@@ -191,11 +171,6 @@ TEST(CatalogueFactors, TemperatureScalesMeetAtTheirFixedPoints) {
     EXPECT_NEAR(ToBase(fahrenheit, 212), 373.15, 1e-12);
     EXPECT_NEAR(ToBase(fahrenheit, -40), ToBase(celsius, -40), 1e-12);
     EXPECT_NEAR(ToBase(fahrenheit, -459.67), 0, 1e-12);
-}
-
-TEST(CatalogueFactors, YearVariantsKeepTheirLengths) {
-    EXPECT_NEAR(ToBase(UnitId(L"YearJulian"), 1) / 86400, 365.25, 1e-9);
-    EXPECT_NEAR(ToBase(UnitId(L"YearGregorian"), 1) / 86400, 365.2425, 1e-9);
 }
 
 TEST(GenericConverterArithmetic, ProductsAndQuotientsCombineFactorsAndExponents) {

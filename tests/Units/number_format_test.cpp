@@ -163,23 +163,20 @@ TEST(FormatNumberAsFraction, RoundsToTheDenominatorAndReduces) {
         double value;
         std::wstring expected;
         int result;
+        int precision = 2;
     };
     FractionRow const rows[] = {
         {3.3, L"3 1/4", 6},  {3.5, L"3 1/2", 6},   {3.9, L"4 ", 2},   {-3.3, L"-3 1/4", 7},
         {-0.3, L"-1/4", 5},  {0.1, L"0 ", 2},      {0.0, L"0 ", 2},   {1234.75, L"1,234 3/4", 10},
+        {2.0625, L"2 1/8", 6, 3}, {2.0, L"2 ", 2, 3},
     };
     for (FractionRow const& r : rows) {
         SCOPED_TRACE(r.value);
+        s.precision = r.precision;
         wchar_t buffer[64];
         EXPECT_EQ(units::FormatNumber(s, r.value, buffer, 64, 0), r.result);
         EXPECT_EQ(std::wstring(buffer), r.expected) << Narrow(buffer);
     }
-    s.precision = 3;
-    wchar_t buffer[64];
-    units::FormatNumber(s, 2.0625, buffer, 64, 0);
-    EXPECT_EQ(std::wstring(buffer), L"2 1/8");
-    units::FormatNumber(s, 2.0, buffer, 64, 0);
-    EXPECT_EQ(std::wstring(buffer), L"2 ");
 }
 
 TEST(FormatNumberAsFraction, PartsIgnoreThisFormattersSymbols) {

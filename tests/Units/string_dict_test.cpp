@@ -35,31 +35,26 @@ int const kOne = 1, kTwo = 2, kThree = 3, kFour = 4, kFive = 5;
 
 }  // namespace
 
-TEST(StringDict, KeysPartingAfterACommonPrefix) {
-    Dict d;
-    ASSERT_EQ(d.Add(L"ab", &kOne, false, false), 0);
-    ASSERT_EQ(d.Add(L"ac", &kTwo, false, false), 0);
-    ExpectMatches(d, {{L"abz", 1, 2}, {L"acz", 2, 2}, {L"adz", 0, 0}, {L"a", 0, 0}, {L"", 0, 0}});
-}
-
+// Keys parting after a common prefix, the longest key that is a prefix of the text,
+// and a key ending inside an existing run (which splits it), in insertion order.
 TEST(StringDict, LongestKeyThatIsAPrefixWins) {
-    Dict d;
-    d.Add(L"m", &kOne, false, false);
-    d.Add(L"mm", &kTwo, false, false);
-    d.Add(L"mm\u00B2", &kThree, false, false);
-    d.Add(L"mil", &kFour, false, false);
-    ExpectMatches(d, {{L"mmx", 2, 2}, {L"mx", 1, 1}, {L"mm\u00B2 ", 3, 3}, {L"mi", 1, 1},
-                      {L"mile", 4, 3}, {L"M", 0, 0}});
-}
-
-TEST(StringDict, KeyEndingInsideAnExistingRunSplitsIt) {
-    Dict d;
-    d.Add(L"kilometer", &kOne, false, false);
-    d.Add(L"kilo", &kTwo, false, false);
-    d.Add(L"kilogram", &kThree, false, false);
-    d.Add(L"k", &kFour, false, false);
-    ExpectMatches(d, {{L"kilometers", 1, 9}, {L"kilom", 2, 4}, {L"kilogram", 3, 8},
-                      {L"kil", 4, 1}, {L"kg", 4, 1}});
+    int const values[] = {1, 2, 3, 4};
+    struct Row {
+        std::initializer_list<wchar_t const*> keys;  // valued 1, 2, ...
+        std::initializer_list<Probe> probes;
+    } const rows[] = {
+        {{L"ab", L"ac"}, {{L"abz", 1, 2}, {L"acz", 2, 2}, {L"adz", 0, 0}, {L"a", 0, 0}, {L"", 0, 0}}},
+        {{L"m", L"mm", L"mm\u00B2", L"mil"},
+         {{L"mmx", 2, 2}, {L"mx", 1, 1}, {L"mm\u00B2 ", 3, 3}, {L"mi", 1, 1}, {L"mile", 4, 3}, {L"M", 0, 0}}},
+        {{L"kilometer", L"kilo", L"kilogram", L"k"},
+         {{L"kilometers", 1, 9}, {L"kilom", 2, 4}, {L"kilogram", 3, 8}, {L"kil", 4, 1}, {L"kg", 4, 1}}},
+    };
+    for (Row const& r : rows) {
+        Dict d;
+        int i = 0;
+        for (wchar_t const* key : r.keys) ASSERT_EQ(d.Add(key, &values[i++], false, false), 0);
+        ExpectMatches(d, r.probes);
+    }
 }
 
 TEST(StringDict, ExistingKeyIsKeptUnlessReplaceIsAsked) {
