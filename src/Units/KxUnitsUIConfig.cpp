@@ -39,22 +39,26 @@ UnitsUIConfig* UnitsUIConfig::GetInstance() {
 
 std::wstring UnitsUIConfig::ConvertString(QString const& text) { return text.toStdWString(); }
 
-int UnitsUIConfig::GetUnitTypesArray(kxp::IDesignPropertyUnits::teGroup group, int*& out) {
+namespace {
+
+// The two-call protocol of the catalogue's enumerations, into a new array the caller frees.
+int EnumerateInto(std::size_t (UnitsConfig::*get)(int, int*) const, int owner, int*& out) {
     UnitsConfig const* config = UnitsConfig::GetInstance();
     if (config == nullptr) return 0;
-    std::size_t const n = config->GetUnitTypes(group, nullptr);
+    std::size_t const n = (config->*get)(owner, nullptr);
     out = new int[n];
-    config->GetUnitTypes(group, out);
+    (config->*get)(owner, out);
     return static_cast<int>(n);
 }
 
+}  // namespace
+
+int UnitsUIConfig::GetUnitTypesArray(kxp::IDesignPropertyUnits::teGroup group, int*& out) {
+    return EnumerateInto(&UnitsConfig::GetUnitTypes, group, out);
+}
+
 int UnitsUIConfig::GetUnitSymbolsArray(kxp::IDesignPropertyUnits::teType unit, int*& out) {
-    UnitsConfig const* config = UnitsConfig::GetInstance();
-    if (config == nullptr) return 0;
-    std::size_t const n = config->GetUnitSymbols(unit, nullptr);
-    out = new int[n];
-    config->GetUnitSymbols(unit, out);
-    return static_cast<int>(n);
+    return EnumerateInto(&UnitsConfig::GetUnitSymbols, unit, out);
 }
 
 // --- Parse dictionary ------------------------------------------------------------

@@ -2,9 +2,9 @@
 // catalogue symbol, and the one parse dictionary that typed text is cut with.
 #pragma once
 
-#include <QMap>
 #include <QString>
 #include <list>
+#include <map>
 #include <memory>
 #include <string>
 #include <unordered_map>
