@@ -44,7 +44,7 @@ Catalogue const& Catalogue::Get() {
 Catalogue::Catalogue() {
     groups.reserve(std::size(kGroupRows));
     for (GroupRow const& g : kGroupRows) {
-        groups.push_back({&g, {}});
+        groups.push_back({&g, {}, {}});
         names.emplace(g.id, g.globalName);
         groupByName.emplace(g.globalName, g.id);
     }
@@ -67,7 +67,14 @@ Catalogue::Catalogue() {
         symbolByName.emplace(s.globalName, s.id);
     }
     // Rows are generated sorted by identifier; symbols of a unit are ordered by index.
-    for (auto& [id, unit] : units) std::sort(unit.symbols.begin(), unit.symbols.end());
+    for (auto& [id, unit] : units) {
+        std::sort(unit.symbols.begin(), unit.symbols.end());
+        // Converters are looked up on every Format and Parse: index them densely.
+        auto& byIndex = const_cast<Group*>(FindGroup(id))->byIndex;
+        std::size_t const index = static_cast<std::size_t>(id & kUnitIndexMask);
+        if (byIndex.size() < index) byIndex.resize(index, nullptr);
+        byIndex[index - 1] = &unit;
+    }
 }
 
 Catalogue::Group const* Catalogue::FindGroup(int id) const {
@@ -78,8 +85,10 @@ Catalogue::Group const* Catalogue::FindGroup(int id) const {
 }
 
 Catalogue::Unit const* Catalogue::FindUnit(int id) const {
-    auto it = units.find(id & kUnitMask);
-    return it == units.end() ? nullptr : &it->second;
+    Group const* group = FindGroup(id);
+    std::size_t const index = static_cast<std::size_t>(id & kUnitIndexMask);
+    if (group == nullptr || index == 0 || index > group->byIndex.size()) return nullptr;
+    return group->byIndex[index - 1];
 }
 
 }  // namespace kxnorth::platform::core::units::detail

@@ -59,6 +59,7 @@ public:
     struct Group {
         GroupRow const* row;
         std::vector<int> units;
+        std::vector<Unit const*> byIndex;  // [unit index - 1]; null where there is no unit
     };
 
     std::vector<Group> groups;                     // in identifier order

@@ -6,11 +6,15 @@
 #include <QString>
 #include <QStringList>
 #include <QTranslator>
+#include <memory>
+#include <vector>
 
 #include "KxCoreUnits/UnitsEnums.h"
 #include "KxCoreUnitsUI/KxCoreUnitsUIExport.h"
 
 namespace kxnorth::platform::core::units {
+
+struct SymbolInfo;
 
 class KXCOREUNITSUI_EXPORT UnitsDisplayNames {
 public:
@@ -47,6 +51,8 @@ public:
     static QString symbolContext(UnitSymbol symbol);
 
 private:
+    friend class UnitsUIConfig;
+
     void UseSystemLocale();
     void Initialize();
     void LoadTranslator(QTranslator& translator, QString const& module);
@@ -57,6 +63,9 @@ private:
     QTranslator m_unitsTranslator;
     QTranslator m_symbolsTranslator;
     QTranslator m_alternatesTranslator;
+    // The locale's symbol table, remembered on the first lookup through these names;
+    // tables live as long as the process.
+    mutable std::vector<std::vector<std::vector<std::unique_ptr<SymbolInfo>>>> const* m_symbolTable = nullptr;
 
     static QMap<int, char const*> s_groupMap;
     static QMap<int, char const*> s_unitMap;

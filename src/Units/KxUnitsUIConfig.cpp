@@ -206,26 +206,42 @@ ISymbol* UnitsUIConfig::FindSymbol(int id, QString const& locale) const {
 }
 
 IFormatSymbol const* UnitsUIConfig::FindFormatSymbol(int id, UnitsDisplayNames const& names) const {
-    if ((id & kUnitIndexMask) != 0 && (id & 0xFF00000) == 0) id |= kDefaultSymbolBit;
-    SymbolInfo const* info = FindSymbolInfo(id, names.locale());
+    SymbolInfo const* info = FindSymbolInfo(id, names);
     return info != nullptr ? info->format : nullptr;
 }
 
 IParseSymbol const* UnitsUIConfig::FindParseSymbol(int id, UnitsDisplayNames const& names) const {
-    if ((id & kUnitIndexMask) != 0 && (id & 0xFF00000) == 0) id |= kDefaultSymbolBit;
-    SymbolInfo const* info = FindSymbolInfo(id, names.locale());
+    SymbolInfo const* info = FindSymbolInfo(id, names);
     return info != nullptr ? info->parse : nullptr;
 }
 
-SymbolInfo const* UnitsUIConfig::FindSymbolInfo(int id, QString const& locale) const {
+SymbolInfo const* UnitsUIConfig::FindSymbolInfo(int id, UnitsDisplayNames const& names) const {
+    if ((id & kUnitIndexMask) != 0 && (id & 0xFF00000) == 0) id |= kDefaultSymbolBit;
+    if (names.m_symbolTable == nullptr) {
+        SymbolTable const* table = FindTable(names.locale());
+        if (table == nullptr) return nullptr;
+        names.m_symbolTable = table;
+    }
+    return FindInTable(*names.m_symbolTable, id);
+}
+
+UnitsUIConfig::SymbolTable const* UnitsUIConfig::FindTable(QString const& locale) const {
     auto it = m_tables.find(locale);
     if (it == m_tables.end()) {
         InitSymbolTable(locale);
         it = m_tables.find(locale);
         if (it == m_tables.end()) return nullptr;
     }
+    return &it->second;
+}
+
+SymbolInfo const* UnitsUIConfig::FindSymbolInfo(int id, QString const& locale) const {
+    SymbolTable const* table = FindTable(locale);
+    return table != nullptr ? FindInTable(*table, id) : nullptr;
+}
+
+SymbolInfo const* UnitsUIConfig::FindInTable(SymbolTable const& table, int id) {
     int const group = GroupNumber(id), unit = UnitIndex(id), index = SymbolIndex(id);
-    SymbolTable const& table = it->second;
     if (group < 1 || static_cast<std::size_t>(group) > table.size()) return nullptr;
     if (unit < 1 || static_cast<std::size_t>(unit) > table[group - 1].size()) return nullptr;
     auto const& symbols = table[group - 1][unit - 1];
@@ -234,8 +250,8 @@ SymbolInfo const* UnitsUIConfig::FindSymbolInfo(int id, QString const& locale) c
 }
 
 ISymbol* UnitsUIConfig::FindSymbol(int id, UnitsDisplayNames const& names) const {
-    if ((id & kUnitIndexMask) != 0 && (id & 0xFF00000) == 0) id |= kDefaultSymbolBit;
-    return FindSymbol(id, names.locale());
+    SymbolInfo const* info = FindSymbolInfo(id, names);
+    return info != nullptr ? info->symbol : nullptr;
 }
 
 int UnitsUIConfig::GetDisplayNameLength(int id, unsigned long& length, QString const& locale) const {

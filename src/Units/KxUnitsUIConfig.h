@@ -50,6 +50,8 @@ public:
 
     ISymbol* FindSymbol(int id, QString const& locale) const;
     SymbolInfo const* FindSymbolInfo(int id, QString const& locale) const;
+    // As above; a unit identifier stands for its default symbol.
+    SymbolInfo const* FindSymbolInfo(int id, UnitsDisplayNames const& names) const;
     // The symbol's writing and typing faces, without a cast per call.
     IFormatSymbol const* FindFormatSymbol(int id, UnitsDisplayNames const& names) const;
     IParseSymbol const* FindParseSymbol(int id, UnitsDisplayNames const& names) const;
@@ -79,6 +81,8 @@ private:
     void AddAlternatesToSymbolDict(UnitSymbol symbol, UnitsDisplayNames const& names, SymbolTable const& table);
     void AddFixed(IParseSymbol* symbol, std::initializer_list<wchar_t> characters);
     ISymbol* CreateSymbol(int symbol, QString const& name, bool& parsable) const;
+    SymbolTable const* FindTable(QString const& locale) const;
+    static SymbolInfo const* FindInTable(SymbolTable const& table, int id);
 
     std::map<QString, SymbolTable> m_tables;
     std::vector<std::unique_ptr<IParseSymbol>> m_ownedParseSymbols;
