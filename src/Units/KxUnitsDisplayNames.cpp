@@ -3,6 +3,7 @@
 #include "KxUnitsDisplayNames.h"
 
 #include <QFile>
+#include <string>
 #include <vector>
 
 #include "KxAssert.h"
@@ -31,31 +32,6 @@ constexpr char kUnitsModule[] = "KxCoreUnitsUI";
 constexpr char kSymbolsModule[] = "KxCoreUnitsUI_units_symbols";
 constexpr char kAlternatesModule[] = "KxCoreUnitsUI_units_parsing_alternate_symbols";
 constexpr int kMaxAlternates = 10;
-
-// The translation keys of every symbol's alternates, in UTF-8, made once per process:
-// each locale asks its translator for all of them.
-struct AlternateKeys {
-    int symbol;
-    QByteArray context;
-    QByteArray keys[kMaxAlternates];
-};
-
-std::vector<AlternateKeys> const& AllAlternateKeys(QMap<int, UnitsDisplayNames::SymbolData> const& symbols) {
-    static std::vector<AlternateKeys> const all = [&symbols] {
-        std::vector<AlternateKeys> result;
-        result.reserve(static_cast<std::size_t>(symbols.size()));
-        UnitsConfig const* config = UnitsConfig::GetInstance();
-        for (auto it = symbols.constBegin(); it != symbols.constEnd(); ++it) {
-            AlternateKeys entry{it.key(), UnitsDisplayNames::symbolContext(static_cast<UnitSymbol>(it.key())).toUtf8(), {}};
-            QByteArray const base =
-                "eS" + QString::fromWCharArray(config->GetGlobalName(it.key())).toUtf8() + "_Alternate";
-            for (int n = 1; n <= kMaxAlternates; ++n) entry.keys[n - 1] = base + QByteArray::number(n);
-            result.push_back(std::move(entry));
-        }
-        return result;
-    }();
-    return all;
-}
 
 // The first row of an identifier wins; later duplicates are ignored.
 void FillFrom(QMap<int, char const*>& map, detail::NameRow const* rows, bool negativeEnds) {
@@ -124,15 +100,29 @@ void UnitsDisplayNames::FillAlternates() const {
     if (s_symbolAlternatesMap.contains(m_locale)) return;
     QMap<int, QStringList> alternates;
     if (!m_alternatesTranslator.isEmpty()) {
-        for (AlternateKeys const& entry : AllAlternateKeys(s_symbolMap)) {
+        static char const* const kNumbers[kMaxAlternates] = {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10"};
+        UnitsConfig const* config = UnitsConfig::GetInstance();
+        QByteArray context;
+        int contextGroup = -1;
+        std::string key;  // "eS" + global name + "_Alternate" + number, in UTF-8
+        for (auto it = s_symbolMap.constBegin(); it != s_symbolMap.constEnd(); ++it) {
+            UnitSymbol const symbol = static_cast<UnitSymbol>(it.key());
+            if ((symbol & kGroupMask) != contextGroup) {  // symbols come grouped
+                contextGroup = symbol & kGroupMask;
+                context = symbolContext(symbol).toUtf8();
+            }
+            QByteArray const name = QString::fromWCharArray(config->GetGlobalName(symbol)).toUtf8();
+            key.assign("eS").append(name.constData(), static_cast<std::size_t>(name.size())).append("_Alternate");
+            std::size_t const stem = key.size();
             QStringList list;
             // Every number is tried: a gap in the numbering does not end the list.
-            for (QByteArray const& key : entry.keys) {
-                QString const text =
-                    m_alternatesTranslator.translate(entry.context.constData(), key.constData(), nullptr, -1);
+            for (char const* number : kNumbers) {
+                key.resize(stem);
+                key.append(number);
+                QString const text = m_alternatesTranslator.translate(context.constData(), key.c_str(), nullptr, -1);
                 if (!text.isEmpty()) list.append(text);
             }
-            if (!list.isEmpty()) alternates.insert(entry.symbol, list);
+            if (!list.isEmpty()) alternates.insert(symbol, list);
         }
     }
     s_symbolAlternatesMap.insert(m_locale, alternates);
