@@ -259,9 +259,8 @@ enum class MarkQuantity { eNone, eAngle, eLength, eTime };
 // all dimensions 0), a length (feet and inches) or a time (minutes and seconds).
 MarkQuantity MarkQuantityOf(DimensionVector const& dims) {
     if (AllDimensionsZero(dims)) return MarkQuantity::eAngle;
-    int const group = GroupOf(dims);
-    if (group == kLengthGroup) return MarkQuantity::eLength;
-    if (group == kTimeGroup) return MarkQuantity::eTime;
+    if (IsLength(dims)) return MarkQuantity::eLength;
+    if (IsTime(dims)) return MarkQuantity::eTime;
     return MarkQuantity::eNone;
 }
 

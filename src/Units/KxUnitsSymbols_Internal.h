@@ -43,7 +43,22 @@ inline bool AllDimensionsZero(DimensionVector const& dims) {
     return true;
 }
 
-inline int GroupOf(DimensionVector const& dims) { return UnitsConfig::GetInstance()->FindUnitGroup(dims); }
+// Whether `dims` are a length's (or a time's); no other group has those dimensions, so
+// this needs no search of the groups. Asked at every mark of every reading.
+inline bool HasDimensionsOf(DimensionVector const& dims, DimensionVector const& groupDims) {
+    for (int i = 0; i < kDimensionCount; ++i) {
+        if (dims[i] != groupDims[i]) return false;
+    }
+    return true;
+}
+inline bool IsLength(DimensionVector const& dims) {
+    static DimensionVector const& length = UnitsConfig::GetInstance()->FindConverter(kLengthGroup | 1)->GetDimTag();
+    return HasDimensionsOf(dims, length);
+}
+inline bool IsTime(DimensionVector const& dims) {
+    static DimensionVector const& time = UnitsConfig::GetInstance()->FindConverter(kTimeGroup | 1)->GetDimTag();
+    return HasDimensionsOf(dims, time);
+}
 
 // The plain factor-and-dimensions copy of a unit's converter.
 inline GenericConverter CopyConverter(UnitConverter const& converter) {

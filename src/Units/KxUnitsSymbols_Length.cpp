@@ -357,7 +357,7 @@ int DashSymbol::Calculate(ParseList& list, ParseIterator& it, bool, DimensionVec
     bool const joins = As<OperandSymbol>(left) != nullptr || As<PrimeSymbol>(left) != nullptr;
     if (!joins) {
         bool const leftIsNumber = As<NumberSymbol>(left) != nullptr;
-        bool const lengthParts = leftIsNumber && left == list.begin() && GroupOf(dims) == kLengthGroup;
+        bool const lengthParts = leftIsNumber && left == list.begin() && IsLength(dims);
         ParseIterator const afterRight = std::next(right);
         bool const fractionFollows = leftIsNumber && As<NumberSymbol>(right) != nullptr &&
                                      afterRight != list.end() && As<DivisionSymbol>(afterRight) != nullptr;
