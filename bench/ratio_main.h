@@ -32,19 +32,23 @@ public:
     bool medians_only = false;
 };
 
-// Runs every benchmark (5 repetitions unless told otherwise), then prints the ratios.
+// Runs every benchmark (9 interleaved repetitions unless told otherwise), then prints the ratios.
 // Returns 0; the ratios are reported, not enforced, since timings vary by machine.
 inline int RunWithRatios(int argc, char** argv, std::vector<Ratio> const& ratios) {
     std::vector<char*> args(argv, argv + argc);
-    std::string reps = "--benchmark_repetitions=5";
+    std::string reps = "--benchmark_repetitions=9";
     std::string aggregates = "--benchmark_report_aggregates_only=true";
     bool repetitionsGiven = false;
     for (int i = 1; i < argc; ++i) {
         if (std::string(argv[i]).rfind("--benchmark_repetitions", 0) == 0) repetitionsGiven = true;
     }
+    // Repetitions of all benchmarks run interleaved in random order, so that a burst of
+    // load on the machine falls on ours and on the reference alike.
+    std::string interleave = "--benchmark_enable_random_interleaving=true";
     if (!repetitionsGiven) {
         args.push_back(reps.data());
         args.push_back(aggregates.data());
+        args.push_back(interleave.data());
     }
     int n = static_cast<int>(args.size());
     benchmark::Initialize(&n, args.data());

@@ -209,7 +209,9 @@ int OperandSymbol::DoCalc(ParseList& list, ParseIterator& it) const {
 GenericOperand::GenericOperand(GenericConverter const& converter) : m_converter(converter) {}
 GenericOperand::~GenericOperand() = default;
 
-ResultSymbol::ResultSymbol(GenericConverter const& converter) : GenericOperand(converter) {}
+ResultSymbol::ResultSymbol(GenericConverter const& converter) : GenericOperand(converter) {
+    Record(ParseKind::eResult, this);
+}
 ResultSymbol::~ResultSymbol() = default;
 
 int ResultSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const&) const {
@@ -223,7 +225,9 @@ int ResultSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, 
 // ---------------------------------------------------------------------------------
 // Numbers
 
-NumberSymbol::NumberSymbol(double value, int flags) : m_value(value), m_flags(flags) {}
+NumberSymbol::NumberSymbol(double value, int flags) : m_value(value), m_flags(flags) {
+    Record(ParseKind::eNumber, this);
+}
 NumberSymbol::~NumberSymbol() = default;
 
 int NumberSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const {
@@ -257,7 +261,9 @@ int NumberSymbol::DoCalc(ParseList& list, ParseIterator& it, DimensionVector con
 // ---------------------------------------------------------------------------------
 // Operators
 
-OperatorSymbol::OperatorSymbol(int priority, int kind) : m_priority(priority), m_kind(kind) {}
+OperatorSymbol::OperatorSymbol(int priority, int kind) : m_priority(priority), m_kind(kind) {
+    Record(ParseKind::eOperator, this);
+}
 OperatorSymbol::~OperatorSymbol() = default;
 
 int OperatorSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const {
@@ -323,7 +329,7 @@ int MultiplicationSymbol::DoCalc(ParseList& list, ParseIterator& it) const {
     return 0;
 }
 
-DivisionSymbol::DivisionSymbol() : OperatorSymbol(10, eBinary) {}
+DivisionSymbol::DivisionSymbol() : OperatorSymbol(10, eBinary) { Record(ParseKind::eDivision, this); }
 DivisionSymbol::~DivisionSymbol() = default;
 
 int DivisionSymbol::DoCalc(ParseList& list, ParseIterator& it) const {
@@ -379,7 +385,9 @@ int CaretSymbol::DoCalc(ParseList& list, ParseIterator& it) const {
     return 0;
 }
 
-LeftParenthesisSymbol::LeftParenthesisSymbol() : OperatorSymbol(50, eOpening) {}
+LeftParenthesisSymbol::LeftParenthesisSymbol() : OperatorSymbol(50, eOpening) {
+    Record(ParseKind::eLeftParenthesis, this);
+}
 LeftParenthesisSymbol::~LeftParenthesisSymbol() = default;
 
 int LeftParenthesisSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand,
@@ -392,7 +400,9 @@ int LeftParenthesisSymbol::Calculate(ParseList& list, ParseIterator& it, bool as
 
 int LeftParenthesisSymbol::DoCalc(ParseList&, ParseIterator&) const { return 0; }
 
-RightParenthesisSymbol::RightParenthesisSymbol() : OperatorSymbol(0, eImmediate) {}
+RightParenthesisSymbol::RightParenthesisSymbol() : OperatorSymbol(0, eImmediate) {
+    Record(ParseKind::eRightParenthesis, this);
+}
 RightParenthesisSymbol::~RightParenthesisSymbol() = default;
 
 int RightParenthesisSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const&) const {

@@ -255,8 +255,33 @@ public:
     virtual int Calculate(ParseList& list, ParseIterator& it, bool asOperand,
                           DimensionVector const& dims) const = 0;
 
+    // This object as the class of `kind`, answered without a call when the object
+    // recorded that kind (see Record) and else through Self.
+    void const* AsKind(ParseKind kind) const {
+        if (static_cast<int>(kind) == m_ownKind) return m_own;
+        return (m_kinds & KindBit(kind)) != 0 ? Self(kind) : nullptr;
+    }
+
 protected:
     IParseSymbol() = default;
+    // A copy answers its own kinds through Self: the recorded pointer is the original's.
+    IParseSymbol(IParseSymbol const& other) : ISymbol(other), m_kinds(other.m_kinds) {}
+    IParseSymbol& operator=(IParseSymbol const&) { return *this; }
+
+    // Each class that answers Self for a kind records the kind and itself in its
+    // constructors; constructors run from the bases down, so the last one recorded is
+    // the most derived class's.
+    void Record(ParseKind kind, void const* self) {
+        m_kinds |= KindBit(kind);
+        m_ownKind = static_cast<int>(kind);
+        m_own = self;
+    }
+
+private:
+    static constexpr unsigned KindBit(ParseKind kind) { return 1u << static_cast<unsigned>(kind); }
+    unsigned m_kinds = 0;  // every kind Self answers for
+    int m_ownKind = -1;
+    void const* m_own = nullptr;
 };
 
 // A unit that operators combine: `2 ft m`, `m/s`, `in²`.
@@ -275,7 +300,7 @@ public:
     int DoCalc(ParseList& list, ParseIterator& it) const;
 
 protected:
-    OperandSymbol() = default;
+    OperandSymbol() { Record(ParseKind::eOperand, this); }
 };
 
 // An operand that evaluation made: a product, quotient or power of units, or a copy
@@ -373,7 +398,7 @@ public:
     void const* Self(ParseKind kind) const override {
         return kind == ParseKind::eSpace ? static_cast<SpaceSymbol const*>(this) : IParseSymbol::Self(kind);
     }
-    SpaceSymbol() = default;
+    SpaceSymbol() { Record(ParseKind::eSpace, this); }
     ~SpaceSymbol() override;
     int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
 };
@@ -668,7 +693,7 @@ public:
     void const* Self(ParseKind kind) const override {
         return kind == ParseKind::ePrime ? static_cast<PrimeSymbol const*>(this) : IParseSymbol::Self(kind);
     }
-    PrimeSymbol() = default;
+    PrimeSymbol() { Record(ParseKind::ePrime, this); }
     ~PrimeSymbol() override;
     int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
 };
@@ -678,7 +703,7 @@ public:
     void const* Self(ParseKind kind) const override {
         return kind == ParseKind::eDoublePrime ? static_cast<DoublePrimeSymbol const*>(this) : IParseSymbol::Self(kind);
     }
-    DoublePrimeSymbol() = default;
+    DoublePrimeSymbol() { Record(ParseKind::eDoublePrime, this); }
     ~DoublePrimeSymbol() override;
     int Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const override;
 };
@@ -867,7 +892,7 @@ struct ParseKindOf<SpaceSymbol> {
 // The symbol as a T, or null when it is none (or the slot is empty).
 template <typename T>
 T const* ParseCast(IParseSymbol const* symbol) {
-    return symbol == nullptr ? nullptr : static_cast<T const*>(symbol->Self(ParseKindOf<T>::value));
+    return symbol == nullptr ? nullptr : static_cast<T const*>(symbol->AsKind(ParseKindOf<T>::value));
 }
 
 }  // namespace kxnorth::platform::core::units

@@ -508,7 +508,9 @@ int SouthSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, D
     return OpenBearing(list, it, dims, -90.0, BearingReference::eFromSouth);
 }
 
-EastSymbol::EastSymbol(BearingReference reference) : m_reference(reference) {}
+EastSymbol::EastSymbol(BearingReference reference) : m_reference(reference) {
+    Record(ParseKind::eEast, this);
+}
 EastSymbol::~EastSymbol() = default;
 
 int EastSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const {
@@ -519,7 +521,9 @@ int EastSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, Di
     return CloseBearing(list, it, dims, m_reference, /*west=*/false);
 }
 
-WestSymbol::WestSymbol(BearingReference reference) : m_reference(reference) {}
+WestSymbol::WestSymbol(BearingReference reference) : m_reference(reference) {
+    Record(ParseKind::eWest, this);
+}
 WestSymbol::~WestSymbol() = default;
 
 int WestSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const {

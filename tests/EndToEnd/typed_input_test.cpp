@@ -112,7 +112,9 @@ TEST_F(TypedInput, FormatNeverWritesPastTheGivenSize) {
             for (std::size_t i = size; i < canvas.size(); ++i) {
                 ASSERT_EQ(canvas[i], L'#') << std::hex << symbol << " size " << std::dec << size;
             }
-            if (result == 0) EXPECT_LT(std::wcslen(canvas.c_str()), size);
+            if (result == 0) {
+                EXPECT_LT(std::wcslen(canvas.c_str()), size);
+            }
         }
     }
 }

@@ -2,8 +2,12 @@
 // of the parse dictionary.
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <string>
+#include <typeinfo>
+#include <vector>
 
+#include "KxCoreUnits/UnitsConfig.h"
 #include "KxCoreUnitsUI/UnitsFormatter.h"
 #include "KxCoreUnitsUI/UnitsManager.h"
 #include "KxUnitsSymbols.h"
@@ -81,4 +85,57 @@ TEST_F(SymbolConfiguration, SymbolDisplayNamesThroughTheFormatter) {
     EXPECT_STREQ(name, L"mil (Sweden and Norway)");
     EXPECT_EQ(f.GetDefaultSymbol(0x2017), 0x102017);
     EXPECT_EQ(f.GetDefaultSymbol(0x2000), 0) << "a group is no unit";
+}
+
+// Kind questions are answered from what each constructor recorded, falling back to
+// the virtual Self; both must agree for every object evaluation can meet.
+TEST_F(SymbolConfiguration, KindShortcutsAgreeWithTheClasses) {
+    std::vector<units::IParseSymbol const*> symbols;
+    // Every catalogue symbol's typing face.
+    units::UnitsConfig const* catalogue = units::UnitsConfig::GetInstance();
+    std::vector<int> groups(catalogue->GetUnitGroups(nullptr));
+    catalogue->GetUnitGroups(groups.data());
+    for (int group : groups) {
+        std::vector<int> unitIds(catalogue->GetUnitTypes(group, nullptr));
+        catalogue->GetUnitTypes(group, unitIds.data());
+        for (int unit : unitIds) {
+            std::vector<int> ids(catalogue->GetUnitSymbols(unit, nullptr));
+            catalogue->GetUnitSymbols(unit, ids.data());
+            for (int id : ids) {
+                units::SymbolInfo const* info = config->FindSymbolInfo(id, locale);
+                if (info != nullptr && info->parse != nullptr) symbols.push_back(info->parse);
+            }
+        }
+    }
+    // The fixed texts of the dictionary.
+    for (wchar_t const* text : {L"'", L"\"", L"-", L" ", L"/", L"\u00B7", L"\u00B2", L"\u00B3", L"^", L"(", L")",
+                                L"\u00B0", L"d", L"g", L"N", L"S", L"E", L"W"}) {
+        unsigned long length = 0;
+        units::IParseSymbol const* symbol = config->FindSymbol(text, &length);
+        ASSERT_NE(symbol, nullptr) << QString::fromWCharArray(text).toStdString();
+        symbols.push_back(symbol);
+    }
+    // What evaluation makes.
+    int const length[units::kDimensionCount] = {1, 0, 0, 0, 0, 0, 0};
+    units::GenericConverter const converter(0.3048, length);
+    units::NumberSymbol const number(5, 0);
+    units::ResultSymbol const result(converter);
+    units::GenericOperand const operand(converter);
+    units::EastSymbol const east(units::BearingReference::eFromNorth);
+    units::WestSymbol const west(units::BearingReference::eFromSouth);
+    units::PrimeSymbol const prime;
+    units::DoublePrimeSymbol const doublePrime;
+    units::DegreeSymbol const degree;
+    units::MultiplicationSymbol const times;
+    for (units::IParseSymbol const* made : std::initializer_list<units::IParseSymbol const*>{
+             &number, &result, &operand, &east, &west, &prime, &doublePrime, &degree, &times}) {
+        symbols.push_back(made);
+    }
+    for (units::IParseSymbol const* symbol : symbols) {
+        for (int kind = 0; kind <= static_cast<int>(units::ParseKind::eSpace); ++kind) {
+            auto const k = static_cast<units::ParseKind>(kind);
+            EXPECT_EQ(symbol->AsKind(k), symbol->Self(k)) << typeid(*symbol).name() << " kind " << kind;
+        }
+    }
+    EXPECT_GT(symbols.size(), 1900u);
 }
