@@ -7,8 +7,13 @@ namespace kxnorth::platform::core::units {
 
 namespace {
 
+// Callers often pass a converter its own dimensions back.
 bool SameDims(int const (&a)[kDimensionCount], int const (&b)[kDimensionCount]) {
-    return std::equal(a, a + kDimensionCount, b);
+    if (&a == &b) return true;
+    for (int i = 0; i < kDimensionCount; ++i) {
+        if (a[i] != b[i]) return false;
+    }
+    return true;
 }
 
 // Exponents saturate instead of overflowing: typed text can square a unit thirty

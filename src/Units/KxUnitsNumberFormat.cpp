@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 
@@ -21,8 +22,48 @@ constexpr std::size_t kRawCapacity = 512;
 struct RawNumber {
     char text[kRawCapacity];
     std::size_t length = 0;
-    bool exponentForm = false;
 };
+
+__extension__ typedef unsigned __int128 Uint128;
+
+// Fixed notation with 1 to 19 decimals by exact integer arithmetic, for the values an
+// application formats (below 2^52, and not so small that the binary point lies beyond
+// 127 bits): the double is m * 2^-s exactly, so value * 10^precision is the exact
+// fraction m * 10^precision / 2^s, rounded here half to even as printf rounds.
+// False, with nothing written, for any value it does not cover.
+bool FixedExact(double value, int precision, char* first, char* last, char*& end) {
+    if (precision < 1 || precision > 19) return false;
+    std::uint64_t bits = 0;
+    std::memcpy(&bits, &value, sizeof bits);
+    int const biased = static_cast<int>((bits >> 52) & 0x7FF);
+    if (biased == 0 || biased >= 1075) return false;  // zero, subnormal, 2^52 and above
+    int const shift = 1075 - biased;                  // value = mantissa / 2^shift
+    if (shift > 127) return false;
+    std::uint64_t const mantissa = (bits & ((std::uint64_t{1} << 52) - 1)) | (std::uint64_t{1} << 52);
+    std::uint64_t scale = 1;
+    for (int i = 0; i < precision; ++i) scale *= 10;
+    Uint128 const scaled = static_cast<Uint128>(mantissa) * scale;  // below 2^117
+    Uint128 quotient = scaled >> shift;
+    Uint128 const remainder = scaled - (quotient << shift);
+    Uint128 const half = static_cast<Uint128>(1) << (shift - 1);
+    if (remainder > half || (remainder == half && (quotient & 1) != 0)) ++quotient;
+    if ((quotient >> 64) != 0) return false;
+
+    char digits[24];
+    char* const digitsEnd = std::to_chars(digits, digits + sizeof digits, static_cast<std::uint64_t>(quotient)).ptr;
+    int const count = static_cast<int>(digitsEnd - digits);
+    int const leadingZeros = count <= precision ? precision + 1 - count : 0;
+    if (last - first < count + leadingZeros + 2) return false;
+    char* out = first;
+    if (std::signbit(value)) *out++ = '-';
+    int const wholeDigits = count + leadingZeros - precision;
+    for (int i = 0; i < count + leadingZeros; ++i) {
+        if (i == wholeDigits) *out++ = '.';
+        *out++ = i < leadingZeros ? '0' : digits[i - leadingZeros];
+    }
+    end = out;
+    return true;
+}
 
 // The text the C locale's printf("%+.*<letter>") writes: always a leading sign, "."
 // as decimal point, no grouping, an exponent of at least two digits. std::to_chars
@@ -46,7 +87,10 @@ bool MakeRaw(double value, NumberFormat format, int precision, RawNumber& raw) {
         raw.length = static_cast<std::size_t>(std::to_chars(first, raw.text + kRawCapacity, whole).ptr - raw.text);
         return true;
     }
-    auto const result = std::to_chars(first, raw.text + kRawCapacity, value, style, precision);
+    std::to_chars_result result{first, std::errc()};
+    if (style != std::chars_format::fixed || !FixedExact(value, precision, first, raw.text + kRawCapacity, result.ptr)) {
+        result = std::to_chars(first, raw.text + kRawCapacity, value, style, precision);
+    }
     if (result.ec != std::errc()) return false;
     if (*first == '-') {
         std::memmove(raw.text, first, static_cast<std::size_t>(result.ptr - first));
@@ -55,10 +99,11 @@ bool MakeRaw(double value, NumberFormat format, int precision, RawNumber& raw) {
         raw.text[0] = '+';
         raw.length = static_cast<std::size_t>(result.ptr - raw.text);
     }
-    for (std::size_t i = 1; i < raw.length; ++i) {
-        char& c = raw.text[i];
-        if (upper && c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-        if (c == 'e' || c == 'E') raw.exponentForm = format != eNFFixedPoint && format != eNFNumber;
+    if (upper) {
+        for (std::size_t i = 1; i < raw.length; ++i) {
+            char& c = raw.text[i];
+            if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+        }
     }
     return true;
 }
@@ -91,6 +136,7 @@ struct Writer {
         ++length;
     }
     void Put(std::wstring const& s) {
+        if (s.size() == 1) return Put(s[0]);
         for (wchar_t c : s) Put(c);
     }
 };
@@ -133,22 +179,21 @@ int FormatNumber(NumberSettings const& s, double value, wchar_t* buffer, unsigne
     }
     std::size_t const leadingSignLength = w.length - beforeLeadingSign;
 
-    bool inExponent = false;
+    // The integer digits, a group separator wherever `remaining` digits are left after
+    // it: the splits ascend, so the next one due is the last stored.
+    std::size_t i = 1;
+    for (std::size_t remaining = integerDigits; remaining > 0; --remaining, ++i) {
+        if (splitCount > 0 && splits[splitCount - 1] == remaining) {
+            w.Put(s.groupSeparator);
+            --splitCount;
+        }
+        w.Put(s.digits[raw.text[i] - '0']);
+    }
+    // Then the decimal separator, the decimals and the exponent.
     std::size_t omittedExponentSigns = 0;
-    std::size_t digitIndex = 0;  // integer digits written so far
-    for (std::size_t i = 1; i < raw.length; ++i) {
+    for (; i < raw.length; ++i) {
         char const c = raw.text[i];
         if (c >= '0' && c <= '9') {
-            if (!inExponent && digitIndex < integerDigits) {
-                std::size_t const remaining = integerDigits - digitIndex;
-                // Separators sit where `remaining` digits are left; splits are ascending.
-                while (splitCount > 0 && splits[splitCount - 1] > remaining) --splitCount;
-                if (splitCount > 0 && splits[splitCount - 1] == remaining) {
-                    w.Put(s.groupSeparator);
-                    --splitCount;
-                }
-                ++digitIndex;
-            }
             w.Put(s.digits[c - '0']);
         } else if (c == '.') {
             w.Put(s.decimalSeparator);
@@ -160,7 +205,6 @@ int FormatNumber(NumberSettings const& s, double value, wchar_t* buffer, unsigne
                 ++omittedExponentSigns;
             }
         } else {
-            if (raw.exponentForm && (c == 'e' || c == 'E')) inExponent = true;
             w.Put(static_cast<wchar_t>(c));
         }
     }

@@ -1,8 +1,12 @@
 // Number text: formats, precision, grouping, signs, digits and buffer sizes.
 #include <gtest/gtest.h>
 
+#include <charconv>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 #include <limits>
+#include <random>
 #include <string>
 
 #include "KxUnitsNumberFormat.h"
@@ -155,6 +159,38 @@ TEST(FormatNumber, HugeValuesAtFullPrecisionFit) {
     std::wstring buffer(1024, L'#');
     int const n = units::FormatNumber(s, -std::numeric_limits<double>::max(), buffer.data(), 1024, 0);
     EXPECT_EQ(n, 1 + 309 + 1 + 99 + 1);
+}
+
+// Fixed notation is worked out by integer arithmetic for ordinary values; it must give
+// std::to_chars's text (printf's) digit for digit, also on exact ties and carries.
+TEST(FormatNumber, FixedDigitsMatchTheLibraryConversion) {
+    std::mt19937_64 random(20261122);
+    auto check = [](double value, int precision) {
+        char expected[512];
+        char* const end = std::to_chars(expected, expected + sizeof expected, value, std::chars_format::fixed,
+                                        precision).ptr;
+        wchar_t buffer[512];
+        int const n = units::FormatNumber(With(units::eNFFixedPoint, precision), value, buffer, 512, 0);
+        std::string want(expected, end);
+        if (value == 0 && want[0] == '-') want.erase(0, 1);  // minus zero writes like zero
+        std::uint64_t bits = 0;
+        std::memcpy(&bits, &value, sizeof bits);
+        ASSERT_EQ(Narrow(n > 0 ? std::wstring(buffer) : L"(refused)"), want)
+            << "precision " << precision << " bits " << std::hex << bits;
+    };
+    for (int i = 0; i < 200000; ++i) {
+        int const precision = 1 + static_cast<int>(random() % 19);
+        // Mantissas at random over exponents from 2^-80 to 2^60: both sides of every limit.
+        double const magnitude = std::ldexp(static_cast<double>(random() >> 11), -53 - 80 + static_cast<int>(random() % 140));
+        check(random() % 2 ? -magnitude : magnitude, precision);
+        // Ties and near-ties: k / 2^j sits exactly on a rounding boundary for small j.
+        double const tie = std::ldexp(static_cast<double>(random() % 100000), -static_cast<int>(random() % 12));
+        check(tie, precision % 6 + 1);
+        check(std::nextafter(tie, 0.0), precision % 6 + 1);
+    }
+    for (double v : {0.125, 0.375, 2.5, 0.995, 9.995, 99.995, 1e-20, 4503599627370495.5, 9.2e18 / 1e2}) {
+        for (int p = 1; p <= 19; ++p) check(v, p);
+    }
 }
 
 TEST(FormatNumberAsFraction, RoundsToTheDenominatorAndReduces) {
