@@ -4,6 +4,7 @@
 # finding. Crashing inputs are kept in build-fuzz/findings/; the corpora grow in
 # build-fuzz/corpus/ from the seeds in fuzz/corpus/.
 #   scripts/fuzz.sh [SECONDS] [TARGET...]     targets: parse_fuzzer format_fuzzer custom_string_fuzzer
+#   scripts/fuzz.sh build [TARGET...]         only builds them
 set -euo pipefail
 cd "$(dirname "$0")/.."
 ./scripts/install-deps.sh
@@ -16,6 +17,7 @@ targets=("$@")
 cmake -S . -B build-fuzz -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=RelWithDebInfo \
   -DKXUNITS_FUZZ=ON -DKXUNITS_SANITIZE=ON -DKXUNITS_BUILD_TESTS=OFF -DKXUNITS_BUILD_BENCHMARKS=OFF >/dev/null
 cmake --build build-fuzz -j "$(nproc)" --target "${targets[@]}"
+[ "$seconds" != build ] || exit 0
 
 mkdir -p build-fuzz/findings build-fuzz/logs
 pids=()
