@@ -141,6 +141,28 @@ struct Writer {
     }
 };
 
+// A whole number of magnitude 1 to 999 as the default settings write it: plain digits
+// after a "-" when negative, no group separator. The size rule is FormatNumber's: the
+// sign, the digits and the terminator must fit, also when no sign is written. Returns
+// the characters written plus one, or -1.
+int WriteSmallWhole(int value, wchar_t* buffer, unsigned long size) {
+    char digits[4];
+    char* const end = std::to_chars(digits, digits + sizeof digits, value < 0 ? -value : value).ptr;
+    unsigned long const count = static_cast<unsigned long>(end - digits);
+    if (count + 2 > size) return -1;
+    unsigned long k = 0;
+    if (value < 0) buffer[k++] = L'-';
+    for (char const* p = digits; p != end; ++p) buffer[k++] = static_cast<wchar_t>(*p);
+    buffer[k] = L'\0';
+    return static_cast<int>(k + 1);
+}
+
+// A part of a fraction (a whole number), written as a new formatter writes numbers.
+int WritePart(double value, wchar_t* buffer, unsigned long size, int flags) {
+    if (value != 0 && std::fabs(value) < 1000) return WriteSmallWhole(static_cast<int>(value), buffer, size);
+    return FormatNumber(NumberSettings::Defaults(), value, buffer, size, flags | kWholeNumberOnly);
+}
+
 }  // namespace
 
 int FormatNumber(NumberSettings const& s, double value, wchar_t* buffer, unsigned long size,
@@ -232,10 +254,9 @@ int FormatNumberAsFraction(NumberSettings const& s, double value, wchar_t* buffe
     std::modf(fraction * denominator, &numerator);
 
     // The parts are written as a new formatter writes numbers, at this precision.
-    NumberSettings const& parts = NumberSettings::Defaults();
     std::size_t k = 0;
     if (numerator == 0 || whole != 0) {
-        int const n = FormatNumber(parts, whole, buffer, size, flags | kWholeNumberOnly);
+        int const n = WritePart(whole, buffer, size, flags);
         if (n < 1) return n;
         buffer[n - 1] = L' ';
         if (numerator == 0) {
@@ -246,15 +267,22 @@ int FormatNumberAsFraction(NumberSettings const& s, double value, wchar_t* buffe
         k = static_cast<std::size_t>(n);
     }
     if (whole < 0 && numerator < 0) numerator = -numerator;
-    while (std::fmod(numerator, 2.0) == 0) {
-        numerator /= 2;
-        denominator /= 2;
+    // Reduce: the denominator is a power of two, so only twos cancel.
+    if (s.precision <= 62) {
+        int const twos = __builtin_ctzll(static_cast<unsigned long long>(std::llabs(static_cast<long long>(numerator))));
+        numerator = std::ldexp(numerator, -twos);
+        denominator = std::ldexp(denominator, -twos);
+    } else {
+        while (std::fmod(numerator, 2.0) == 0) {
+            numerator /= 2;
+            denominator /= 2;
+        }
     }
-    int const n1 = FormatNumber(parts, numerator, buffer + k, size - k, kWholeNumberOnly);
+    int const n1 = WritePart(numerator, buffer + k, size - k, 0);
     if (n1 < 1) return n1;
     k += static_cast<std::size_t>(n1);
     buffer[k - 1] = L'/';
-    int const n2 = FormatNumber(parts, denominator, buffer + k, size - k, kWholeNumberOnly);
+    int const n2 = WritePart(denominator, buffer + k, size - k, 0);
     if (n2 < 1) return n2;
     k += static_cast<std::size_t>(n2);
     if (k >= size) return -1;
