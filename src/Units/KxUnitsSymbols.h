@@ -496,6 +496,11 @@ protected:
     // Writes the optional space, the text and its terminator at `buffer`; the count
     // written including the terminator, or -1 when `size` is too small.
     int AppendText(wchar_t* buffer, unsigned long size) const;
+    // The text after a number a FormatNumber call wrote into `buffer` (its result is
+    // `written`), from the number's terminator on. The count returned is that of the
+    // space, text and terminator only, as callers measure the terminated string; a
+    // failed number's result is passed on.
+    int AppendTextAfterNumber(int written, wchar_t* buffer, unsigned long size) const;
 
 private:
     std::wstring m_text;
@@ -590,8 +595,11 @@ protected:
     BasicLinearSymbol(std::wstring text, int unitSymbol, int operandUnitSymbol, int flags);
 
 private:
+    UnitConverter const& GetConverter() const;
+
     int m_unitSymbol;
     int m_operandUnitSymbol;
+    UnitConverter const* m_converter;  // the catalogue's, found once; null when unknown
 };
 
 class KXCOREUNITSUI_EXPORT LinearSymbol : public BasicLinearSymbol<SimpleFormatSymbol> {

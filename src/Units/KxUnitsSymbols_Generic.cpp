@@ -71,6 +71,12 @@ int SimpleFormatSymbolBase::AppendText(wchar_t* buffer, unsigned long size) cons
     return static_cast<int>(pos);
 }
 
+int SimpleFormatSymbolBase::AppendTextAfterNumber(int written, wchar_t* buffer, unsigned long size) const {
+    if (written <= 0) return written;
+    unsigned long const terminator = static_cast<unsigned long>(written) - 1;
+    return AppendText(buffer + terminator, size - terminator);
+}
+
 int SimpleFormatSymbolBase::Format(double, DimensionVector const&, wchar_t* buffer, unsigned long size,
                                    UnitsFormatterImp const&) const {
     return AppendText(buffer, size);
@@ -129,12 +135,7 @@ int BasicGenericSymbol<TextBase>::FormatNumber(int index, double value, Dimensio
 template <typename TextBase>
 int BasicGenericSymbol<TextBase>::Format(double value, DimensionVector const& dims, wchar_t* buffer,
                                          unsigned long size, UnitsFormatterImp const& formatter) const {
-    int const n = this->FormatNumber(0, value, dims, buffer, size, formatter);
-    if (n <= 0) return n;
-    // The text goes on from the number's terminator. The count returned is that of
-    // the space, text and terminator only; callers measure the terminated string.
-    unsigned long const terminator = static_cast<unsigned long>(n) - 1;
-    return this->AppendText(buffer + terminator, size - terminator);
+    return this->AppendTextAfterNumber(this->FormatNumber(0, value, dims, buffer, size, formatter), buffer, size);
 }
 
 template <typename TextBase>
@@ -170,32 +171,35 @@ GenericSymbolEx::~GenericSymbolEx() = default;
 
 template <typename TextBase>
 BasicLinearSymbol<TextBase>::BasicLinearSymbol(std::wstring text, int unitSymbol, int operandUnitSymbol, int flags)
-    : TextBase(std::move(text), flags), m_unitSymbol(unitSymbol), m_operandUnitSymbol(operandUnitSymbol) {}
+    : TextBase(std::move(text), flags),
+      m_unitSymbol(unitSymbol),
+      m_operandUnitSymbol(operandUnitSymbol),
+      m_converter(UnitsConfig::GetInstance()->FindConverter(unitSymbol)) {}
 
 template <typename TextBase>
 BasicLinearSymbol<TextBase>::~BasicLinearSymbol() = default;
 
 template <typename TextBase>
+UnitConverter const& BasicLinearSymbol<TextBase>::GetConverter() const {
+    return m_converter != nullptr ? *m_converter : UnknownUnit();
+}
+
+template <typename TextBase>
 int BasicLinearSymbol<TextBase>::FormatNumber(int index, double value, DimensionVector const& dims, wchar_t* buffer,
                                               unsigned long size, UnitsFormatterImp const& formatter) const {
     if (index != 0) return -1;
-    UnitConverter const* converter = UnitsConfig::GetInstance()->FindConverter(m_unitSymbol);
-    return FormatInUnit(converter != nullptr ? *converter : UnknownUnit(), value, dims, buffer, size, formatter);
+    return FormatInUnit(GetConverter(), value, dims, buffer, size, formatter);
 }
 
 template <typename TextBase>
 int BasicLinearSymbol<TextBase>::Format(double value, DimensionVector const& dims, wchar_t* buffer,
                                         unsigned long size, UnitsFormatterImp const& formatter) const {
-    int const n = this->FormatNumber(0, value, dims, buffer, size, formatter);
-    if (n <= 0) return n;
-    unsigned long const terminator = static_cast<unsigned long>(n) - 1;
-    return this->AppendText(buffer + terminator, size - terminator);
+    return this->AppendTextAfterNumber(this->FormatNumber(0, value, dims, buffer, size, formatter), buffer, size);
 }
 
 template <typename TextBase>
 int BasicLinearSymbol<TextBase>::ParseNumber(ParseList& list, int form) const {
-    UnitConverter const* converter = UnitsConfig::GetInstance()->FindConverter(m_unitSymbol);
-    return ParseLeadingNumber(converter != nullptr ? *converter : UnknownUnit(), list, form);
+    return ParseLeadingNumber(GetConverter(), list, form);
 }
 
 template <typename TextBase>
