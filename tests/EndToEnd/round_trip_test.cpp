@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "KxCoreUnits/UnitsConfig.h"
+#include "CatalogueSymbols.h"
 #include "KxCoreUnitsUI/UnitsFormatter.h"
 #include "KxCoreUnitsUI/UnitsManager.h"
 
@@ -16,21 +16,7 @@ namespace units = kxnorth::platform::core::units;
 
 namespace {
 
-std::vector<int> AllSymbols() {
-    units::UnitsConfig const* config = units::UnitsConfig::GetInstance();
-    std::vector<int> groups(config->GetUnitGroups(nullptr)), result;
-    config->GetUnitGroups(groups.data());
-    for (int g : groups) {
-        std::vector<int> unitIds(config->GetUnitTypes(g, nullptr));
-        config->GetUnitTypes(g, unitIds.data());
-        for (int u : unitIds) {
-            std::vector<int> symbols(config->GetUnitSymbols(u, nullptr));
-            config->GetUnitSymbols(u, symbols.data());
-            result.insert(result.end(), symbols.begin(), symbols.end());
-        }
-    }
-    return result;
-}
+using kxtest::AllSymbols;
 
 // Half the step the symbol shows at precision 2, in the symbol's unit.
 double HalfStep(int symbol) {

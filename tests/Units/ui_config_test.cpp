@@ -7,7 +7,7 @@
 #include <typeinfo>
 #include <vector>
 
-#include "KxCoreUnits/UnitsConfig.h"
+#include "CatalogueSymbols.h"
 #include "KxCoreUnitsUI/UnitsFormatter.h"
 #include "KxCoreUnitsUI/UnitsManager.h"
 #include "KxUnitsSymbols.h"
@@ -92,20 +92,9 @@ TEST_F(SymbolConfiguration, SymbolDisplayNamesThroughTheFormatter) {
 TEST_F(SymbolConfiguration, KindShortcutsAgreeWithTheClasses) {
     std::vector<units::IParseSymbol const*> symbols;
     // Every catalogue symbol's typing face.
-    units::UnitsConfig const* catalogue = units::UnitsConfig::GetInstance();
-    std::vector<int> groups(catalogue->GetUnitGroups(nullptr));
-    catalogue->GetUnitGroups(groups.data());
-    for (int group : groups) {
-        std::vector<int> unitIds(catalogue->GetUnitTypes(group, nullptr));
-        catalogue->GetUnitTypes(group, unitIds.data());
-        for (int unit : unitIds) {
-            std::vector<int> ids(catalogue->GetUnitSymbols(unit, nullptr));
-            catalogue->GetUnitSymbols(unit, ids.data());
-            for (int id : ids) {
-                units::SymbolInfo const* info = config->FindSymbolInfo(id, locale);
-                if (info != nullptr && info->parse != nullptr) symbols.push_back(info->parse);
-            }
-        }
+    for (int id : kxtest::AllSymbols()) {
+        units::SymbolInfo const* info = config->FindSymbolInfo(id, locale);
+        if (info != nullptr && info->parse != nullptr) symbols.push_back(info->parse);
     }
     // The fixed texts of the dictionary.
     for (wchar_t const* text : {L"'", L"\"", L"-", L" ", L"/", L"\u00B7", L"\u00B2", L"\u00B3", L"^", L"(", L")",
