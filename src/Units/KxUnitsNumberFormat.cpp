@@ -267,8 +267,9 @@ int FormatNumberAsFraction(NumberSettings const& s, double value, wchar_t* buffe
         k = static_cast<std::size_t>(n);
     }
     if (whole < 0 && numerator < 0) numerator = -numerator;
-    // Reduce: the denominator is a power of two, so only twos cancel.
-    if (s.precision <= 62) {
+    // Reduce: the denominator is a power of two, so only twos cancel. A not-a-number
+    // numerator is never even and stays as it is.
+    if (s.precision <= 62 && !std::isnan(numerator)) {
         int const twos = __builtin_ctzll(static_cast<unsigned long long>(std::llabs(static_cast<long long>(numerator))));
         numerator = std::ldexp(numerator, -twos);
         denominator = std::ldexp(denominator, -twos);

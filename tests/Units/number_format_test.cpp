@@ -205,6 +205,10 @@ TEST(FormatNumberAsFraction, RoundsToTheDenominatorAndReduces) {
         {3.3, L"3 1/4", 6},  {3.5, L"3 1/2", 6},   {3.9, L"4 ", 2},   {-3.3, L"-3 1/4", 7},
         {-0.3, L"-1/4", 5},  {0.1, L"0 ", 2},      {0.0, L"0 ", 2},   {1234.75, L"1,234 3/4", 10},
         {2.0625, L"2 1/8", 6, 3}, {2.0, L"2 ", 2, 3},
+        // Values without a fraction part keep the C library's text.
+        {std::numeric_limits<double>::infinity(), L"inf ", 4},
+        {std::numeric_limits<double>::quiet_NaN(), L"nan nan/4", 10},
+        {std::numeric_limits<double>::quiet_NaN(), L"nan nan/1,024", 14, 10},
     };
     for (FractionRow const& r : rows) {
         SCOPED_TRACE(r.value);
