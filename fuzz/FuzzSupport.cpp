@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <cstring>
+#include <limits>
 
 #include "KxCoreUnits/UnitsConfig.h"
 #include "KxCoreUnitsUI/UnitsManager.h"
@@ -155,7 +156,7 @@ int PickSymbol(FuzzedDataProvider& data) {
 }
 
 double PickValue(FuzzedDataProvider& data) {
-    switch (data.ConsumeIntegralInRange(0, 3)) {
+    switch (data.ConsumeIntegralInRange(0, 4)) {
         case 0: {
             std::uint64_t const bits = data.ConsumeIntegral<std::uint64_t>();
             double value;
@@ -168,6 +169,24 @@ double PickValue(FuzzedDataProvider& data) {
             // Near a carry: 11.99...", 59.99...", whole and half values.
             return static_cast<double>(data.ConsumeIntegralInRange(-1000, 1000)) / 8.0 -
                    data.ConsumeProbability<double>() * 1e-3;
+        case 3: {
+            // Values every symbol must survive, picked often rather than hoped for.
+            constexpr double kInfinity = std::numeric_limits<double>::infinity();
+            constexpr double kSpecial[] = {std::numeric_limits<double>::quiet_NaN(),
+                                           -std::numeric_limits<double>::quiet_NaN(),
+                                           kInfinity,
+                                           -kInfinity,
+                                           0.0,
+                                           -0.0,
+                                           std::numeric_limits<double>::max(),
+                                           std::numeric_limits<double>::lowest(),
+                                           std::numeric_limits<double>::denorm_min(),
+                                           -std::numeric_limits<double>::min(),
+                                           9.2233720368547758e18,
+                                           -9.2233720368547758e18,
+                                           4503599627370495.5};
+            return data.PickValueInArray(kSpecial);
+        }
         default:
             return data.ConsumeFloatingPoint<double>();
     }
