@@ -193,21 +193,19 @@ TEST(FormatNumber, FixedDigitsMatchTheLibraryConversion) {
     }
 }
 
-TEST(FormatNumberAsFraction, RoundsToTheDenominatorAndReduces) {
+namespace {
+
+struct FractionRow {
+    double value;
+    std::wstring expected;
+    int result;
+    int precision = 2;
+};
+
+void CheckFractions(std::initializer_list<FractionRow> rows) {
     NumberSettings s = With(units::eNFFraction, 2);
-    struct FractionRow {
-        double value;
-        std::wstring expected;
-        int result;
-        int precision = 2;
-    };
-    FractionRow const rows[] = {
-        {3.3, L"3 1/4", 6},  {3.5, L"3 1/2", 6},   {3.9, L"4 ", 2},   {-3.3, L"-3 1/4", 7},
-        {-0.3, L"-1/4", 5},  {0.1, L"0 ", 2},      {0.0, L"0 ", 2},   {1234.75, L"1,234 3/4", 10},
-        {2.0625, L"2 1/8", 6, 3}, {2.0, L"2 ", 2, 3},
-    };
     for (FractionRow const& r : rows) {
-        SCOPED_TRACE(r.value);
+        SCOPED_TRACE(testing::Message() << r.value << " at precision " << r.precision);
         s.precision = r.precision;
         wchar_t buffer[64];
         EXPECT_EQ(units::FormatNumber(s, r.value, buffer, 64, 0), r.result);
@@ -215,30 +213,26 @@ TEST(FormatNumberAsFraction, RoundsToTheDenominatorAndReduces) {
     }
 }
 
+}  // namespace
+
+TEST(FormatNumberAsFraction, RoundsToTheDenominatorAndReduces) {
+    CheckFractions({
+        {3.3, L"3 1/4", 6},  {3.5, L"3 1/2", 6},   {3.9, L"4 ", 2},   {-3.3, L"-3 1/4", 7},
+        {-0.3, L"-1/4", 5},  {0.1, L"0 ", 2},      {0.0, L"0 ", 2},   {1234.75, L"1,234 3/4", 10},
+        {2.0625, L"2 1/8", 6, 3}, {2.0, L"2 ", 2, 3},
+    });
+}
+
 // Found by the format fuzzer: a not-a-number numerator was cast to an integer to count
 // its twos. It is never even, so it keeps the whole denominator.
 TEST(FormatNumberAsFraction, NotANumberIsNeverReduced) {
-    NumberSettings s = With(units::eNFFraction, 2);
     double const nan = std::numeric_limits<double>::quiet_NaN();
-    struct Row {
-        double value;
-        int precision;
-        std::wstring expected;
-        int result;
-    };
-    Row const rows[] = {
-        {nan, 2, L"nan nan/4", 10},
-        {-nan, 10, L"-nan -nan/1,024", 16},
-        {nan, 70, L"nan nan/1,180,591,620,717,411,303,424", 38},
-        {std::numeric_limits<double>::infinity(), 2, L"inf ", 4},  // no fraction: the space is counted, not the end
-    };
-    for (Row const& r : rows) {
-        SCOPED_TRACE(r.precision);
-        s.precision = r.precision;
-        wchar_t buffer[64];
-        EXPECT_EQ(units::FormatNumber(s, r.value, buffer, 64, 0), r.result);
-        EXPECT_EQ(std::wstring(buffer), r.expected) << Narrow(buffer);
-    }
+    CheckFractions({
+        {nan, L"nan nan/4", 10},
+        {-nan, L"-nan -nan/1,024", 16, 10},
+        {nan, L"nan nan/1,180,591,620,717,411,303,424", 38, 70},
+        {std::numeric_limits<double>::infinity(), L"inf ", 4},  // no fraction: the space is counted, not the end
+    });
 }
 
 TEST(FormatNumberAsFraction, PartsIgnoreThisFormattersSymbols) {
