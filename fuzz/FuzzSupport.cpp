@@ -171,20 +171,10 @@ double PickValue(FuzzedDataProvider& data) {
                    data.ConsumeProbability<double>() * 1e-3;
         case 3: {
             // Values every symbol must survive, picked often rather than hoped for.
-            constexpr double kInfinity = std::numeric_limits<double>::infinity();
-            constexpr double kSpecial[] = {std::numeric_limits<double>::quiet_NaN(),
-                                           -std::numeric_limits<double>::quiet_NaN(),
-                                           kInfinity,
-                                           -kInfinity,
-                                           0.0,
-                                           -0.0,
-                                           std::numeric_limits<double>::max(),
-                                           std::numeric_limits<double>::lowest(),
-                                           std::numeric_limits<double>::denorm_min(),
-                                           -std::numeric_limits<double>::min(),
-                                           9.2233720368547758e18,
-                                           -9.2233720368547758e18,
-                                           4503599627370495.5};
+            using Limits = std::numeric_limits<double>;
+            constexpr double kSpecial[] = {Limits::quiet_NaN(), -Limits::quiet_NaN(), Limits::infinity(),
+                                           -Limits::infinity(), 0.0, -0.0, Limits::max(), Limits::lowest(),
+                                           Limits::denorm_min(), -Limits::min(), 0x1p63, -0x1p63, 0x1p52 - 0.5};
             return data.PickValueInArray(kSpecial);
         }
         default:
