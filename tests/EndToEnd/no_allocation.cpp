@@ -9,6 +9,7 @@
 
 #include "KxCoreUnitsUI/UnitsFormatter.h"
 #include "KxCoreUnitsUI/UnitsManager.h"
+#include "ManagerTest.h"
 
 namespace {
 
@@ -28,12 +29,8 @@ namespace units = kxnorth::platform::core::units;
 
 namespace {
 
-class Allocations : public ::testing::Test {
+class Allocations : public kxtest::ManagerTest<> {
 protected:
-    static void SetUpTestSuite() {
-        units::UnitsManager::Initialize();
-        units::UnitsManager::GetInstance();
-    }
     // Heap allocations made by `work`, after one warm-up call.
     template <typename Work>
     static long Count(Work work) {

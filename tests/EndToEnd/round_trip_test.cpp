@@ -11,6 +11,7 @@
 #include "CatalogueSymbols.h"
 #include "KxCoreUnitsUI/UnitsFormatter.h"
 #include "KxCoreUnitsUI/UnitsManager.h"
+#include "ManagerTest.h"
 
 namespace units = kxnorth::platform::core::units;
 
@@ -32,11 +33,10 @@ double HalfStep(int symbol) {
 
 }  // namespace
 
-class RoundTrip : public ::testing::TestWithParam<char const*> {
+class RoundTrip : public kxtest::ManagerTest<::testing::TestWithParam<char const*>> {
 protected:
     static void SetUpTestSuite() {
-        units::UnitsManager::Initialize();
-        units::UnitsManager::GetInstance();
+        ManagerTest::SetUpTestSuite();
         // Every locale shares the one parse dictionary: load all before any parse.
         for (wchar_t const* locale : {L"en-US", L"de-DE", L"fr-FR"}) units::UnitsFormatter warm(locale);
     }

@@ -7,6 +7,7 @@
 
 #include "KxCoreUnitsUI/UnitsFormatter.h"
 #include "KxCoreUnitsUI/UnitsManager.h"
+#include "ManagerTest.h"
 
 namespace units = kxnorth::platform::core::units;
 
@@ -29,12 +30,8 @@ std::string Narrow(wchar_t const* w) {
     return s;
 }
 
-class TypedInput : public ::testing::Test {
+class TypedInput : public kxtest::ManagerTest<> {
 protected:
-    static void SetUpTestSuite() {
-        units::UnitsManager::Initialize();
-        units::UnitsManager::GetInstance();
-    }
     units::UnitsFormatter formatter{L"en-US"};
 };
 

@@ -8,6 +8,7 @@
 #include "KxCoreUnitsUI/UnitsFormatter.h"
 #include "KxCoreUnitsUI/UnitsManager.h"
 #include "KxUnitsFormatterImp.h"
+#include "ManagerTest.h"
 
 namespace units = kxnorth::platform::core::units;
 using units::UnitsFormatter;
@@ -15,13 +16,7 @@ using units::UnitsFormatterImp;
 
 namespace {
 
-class FormatterSettings : public ::testing::Test {
-protected:
-    static void SetUpTestSuite() {
-        units::UnitsManager::Initialize();
-        units::UnitsManager::GetInstance();
-    }
-};
+class FormatterSettings : public kxtest::ManagerTest<> {};
 
 // Every setting, read through the public getters, for comparison before and after.
 struct Snapshot {

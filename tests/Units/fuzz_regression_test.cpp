@@ -8,6 +8,7 @@
 
 #include "KxCoreUnitsUI/UnitsFormatter.h"
 #include "KxCoreUnitsUI/UnitsManager.h"
+#include "ManagerTest.h"
 
 namespace units = kxnorth::platform::core::units;
 
@@ -15,13 +16,7 @@ namespace {
 
 constexpr int kMeter = 0x2001;
 
-class ParseRegressionsFromFuzzer : public ::testing::Test {
-protected:
-    static void SetUpTestSuite() {
-        units::UnitsManager::Initialize();
-        units::UnitsManager::GetInstance();
-    }
-};
+class ParseRegressionsFromFuzzer : public kxtest::ManagerTest<> {};
 
 std::wstring Repeated(wchar_t const* text, int count) {
     std::wstring result;

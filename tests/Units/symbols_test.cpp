@@ -15,6 +15,7 @@
 #include "KxUnitsFormatterImp.h"
 #include "KxUnitsSymbols.h"
 #include "KxUnitsSymbols2.h"
+#include "ManagerTest.h"
 
 namespace units = kxnorth::platform::core::units;
 using Dims = int[units::kDimensionCount];
@@ -46,12 +47,8 @@ std::string Narrow(std::wstring const& w) {
     return s;
 }
 
-class Symbols : public ::testing::Test {
+class Symbols : public kxtest::ManagerTest<> {
 protected:
-    static void SetUpTestSuite() {
-        units::UnitsManager::Initialize();
-        units::UnitsManager::GetInstance();
-    }
     // `value` in the symbol's unit, written at `precision`; "<fail n>" on an error.
     std::wstring Write(int symbol, double value, int precision) {
         f.SetNumberDecimalPrecision(precision);

@@ -12,17 +12,17 @@
 #include "KxCoreUnitsUI/UnitsManager.h"
 #include "KxUnitsSymbols.h"
 #include "KxUnitsUIConfig.h"
+#include "ManagerTest.h"
 
 namespace units = kxnorth::platform::core::units;
 using units::UnitsUIConfig;
 
 namespace {
 
-class SymbolConfiguration : public ::testing::Test {
+class SymbolConfiguration : public kxtest::ManagerTest<> {
 protected:
     static void SetUpTestSuite() {
-        units::UnitsManager::Initialize();
-        units::UnitsManager::GetInstance();
+        ManagerTest::SetUpTestSuite();
         units::UnitsFormatter load(L"en-US");
     }
     UnitsUIConfig const* config = UnitsUIConfig::GetInstance();
