@@ -150,8 +150,9 @@ ISymbol* UnitsUIConfig::CreateSymbol(int id, QString const& name, bool& parsable
         case 0x22A002: case 0x42A002: return new LinearSymbol2(name, unit, kKelvin, 1);
         case 0x12A003: case 0x32A003: return new LinearSymbol2(name, unit, kRankine, 0);
         case 0x22A003: case 0x42A003: return new LinearSymbol2(name, unit, kRankine, 1);
-        // A unitless number is written bare; "ul" still reads as unitless.
-        case 0x101001: parsable = false; return new GenericSymbolEx2(QString(), kUnitless, 1, &name);
+        // The unitless default symbol writes the unit's name right after the number
+        // ("2.5unitless") and reads it back; "ul" is the spaced second symbol.
+        case 0x101001: return new GenericSymbolEx2(name, kUnitless, 1, &name);
         default:
             return new GenericSymbol2(name, unit, 0);
     }

@@ -11,6 +11,7 @@
 #include <thread>
 #include <vector>
 
+#include "KxCoreUnitsUI/UnitsFormatter.h"
 #include "KxCoreUnitsUI/UnitsManager.h"
 #include "KxUnitsFormatterImp.h"
 #include "KxUnitsSymbols.h"
@@ -259,6 +260,33 @@ TEST_F(Symbols, RoundTripAtEveryPrecision) {
                 EXPECT_LE(difference, step / 2 + 1e-9);
             }
         }
+    }
+}
+
+// The unitless default symbol is the unit's translated name written right after the
+// number; asked for by symbol 0 or by a dimensionless quantity it is the same symbol,
+// and each locale reads its own name back.
+TEST_F(Symbols, UnitlessDefaultIsTheUnitsNameAndReadsBack) {
+    struct Row {
+        wchar_t const* locale;
+        wchar_t const* written;
+    } const rows[] = {
+        {L"en-US", L"2.50unitless"}, {L"de-DE", L"2.50Einheitenlos"}, {L"fr-FR", L"2.50sans unit\u00E9"},
+    };
+    constexpr Dims kNone = {0, 0, 0, 0, 0, 0, 0};
+    for (Row const& r : rows) {
+        SCOPED_TRACE(Narrow(r.locale));
+        units::UnitsFormatter const f(r.locale);
+        wchar_t bySymbol[64] = L"", byDefault[64] = L"", byDims[64] = L"";
+        ASSERT_EQ(f.Format(2.5, 0x1001, bySymbol, 64, 0x101001, nullptr), 0);
+        ASSERT_EQ(f.Format(2.5, 0x1001, byDefault, 64, 0, nullptr), 0);
+        ASSERT_EQ(f.Format(2.5, kNone, byDims, 64, 0, nullptr), 0);
+        EXPECT_EQ(Narrow(bySymbol), Narrow(r.written));
+        EXPECT_EQ(Narrow(byDefault), Narrow(r.written));
+        EXPECT_EQ(Narrow(byDims), Narrow(r.written));
+        double value = 0;
+        ASSERT_EQ(f.Parse(r.written, value, 0x1001), 0);
+        EXPECT_DOUBLE_EQ(value, 2.5);
     }
 }
 
