@@ -8,6 +8,7 @@
 
 #include "KxAssert.h"
 #include "KxCoreUnits/UnitsUtilities.h"
+#include "KxCoreUnitsUI/LocaleUtil.h"
 
 namespace kxnorth::platform::core::units {
 
@@ -78,12 +79,12 @@ QString StringUtil::GetGlobalName(NumberFormat format) { return GlobalNameOf(for
 
 int StringUtil::LocaleAwareCompare(QString const& a, QString const& b) {
     if (a.isEmpty() || b.isEmpty()) return 0;
-    // The collator follows Qt's default locale, which the units manager keeps at the
-    // library's current locale. A "C" or "POSIX" user locale matches no locale row,
-    // so it collates as "en-US", like every other fallback of the library.
-    QLocale locale;
-    if (locale.language() == QLocale::C) locale = QLocale(QLocale::English, QLocale::UnitedStates);
-    QCollator collator{locale};
+    // Names sort in the order of the user's own locale, whatever locale the library
+    // shows its texts in (Qt's default locale follows the library's). A user locale
+    // that is not in the table ("C", "POSIX", none) collates as "en-US", like every
+    // other fallback of the library.
+    QCollator const collator{QLocale(locale::LocaleUtil::LocaleNameToQtLocaleName(
+        locale::LocaleUtil::GetCurrentSystemLocale()))};
     int const order = collator.compare(a, b);
     return order < 0 ? -1 : (order > 0 ? 1 : 0);
 }

@@ -5,6 +5,7 @@
 #include <cwchar>
 
 #include "KxCoreUnitsUI/StringUtil.h"
+#include "translation_test_support.h"
 
 namespace units = kxnorth::platform::core::units;
 using units::StringUtil;
@@ -127,4 +128,26 @@ TEST(LocaleAwareCompare, OrdersLikeADictionaryNotLikeCodePoints) {
     EXPECT_GT(StringUtil::LocaleAwareCompare(QStringLiteral("Banana"), QStringLiteral("apple")), 0);
     EXPECT_LT(StringUtil::LocaleAwareCompare(QString::fromUtf8("état"), QStringLiteral("zone")), 0);
     EXPECT_EQ(StringUtil::LocaleAwareCompare(QStringLiteral("same"), QStringLiteral("same")), 0);
+}
+
+// The order is the user's, not the one of the locale the library shows its texts in:
+// Swedish sorts "ä" after "z", German beside "a"; an unknown user locale sorts as
+// American English.
+TEST(LocaleAwareCompare, FollowsTheUsersLocaleNotTheLibrarys) {
+    QLocale const previous;
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    struct Case {
+        char const* lang;
+        int aeAgainstZ;  // sign of Compare("ä", "z")
+    } const cases[] = {
+        {"sv_SE.UTF-8", 1}, {"fi_FI.UTF-8", 1}, {"de_DE.UTF-8", -1}, {"en_US.UTF-8", -1}, {"C", -1}, {nullptr, -1},
+    };
+    for (Case const& c : cases) {
+        SCOPED_TRACE(c.lang != nullptr ? c.lang : "unset");
+        kxtest::ScopedLocaleEnvironment const env(nullptr, nullptr, c.lang);
+        EXPECT_EQ(StringUtil::LocaleAwareCompare(QString::fromUtf8("\u00e4"), QStringLiteral("z")), c.aeAgainstZ);
+        EXPECT_EQ(StringUtil::LocaleAwareCompare(QStringLiteral("z"), QString::fromUtf8("\u00e4")), -c.aeAgainstZ);
+        EXPECT_EQ(StringUtil::LocaleAwareCompare(QStringLiteral("x"), QString()), 0) << "empty still equals all";
+    }
+    QLocale::setDefault(previous);
 }
