@@ -194,9 +194,16 @@ int FormatNumber(NumberSettings const& s, double value, wchar_t* buffer, unsigne
     if (zeroSign) w.Put(s.negativeSign);
     std::size_t const beforeLeadingSign = w.length;
 
-    // The leading sign of the number.
+    // The leading sign of the number. The exponent forms read every sign after the
+    // exponent letter as the exponent's; infinity and not-a-number have no letter, so
+    // their sign stays the exponent's and follows the exponent's switches.
     bool const negative = raw.text[0] == '-';
-    if (negative ? s.includeNegativeSignInNumber : s.includePositiveSignInNumber) {
+    bool const signOfExponent =
+        (s.format == eNFExponential || s.format == eNFExponentialLower) && !std::isfinite(value);
+    bool const includeLeadingSign =
+        negative ? (signOfExponent ? s.includeNegativeSignInExponent : s.includeNegativeSignInNumber)
+                 : (signOfExponent ? s.includePositiveSignInExponent : s.includePositiveSignInNumber);
+    if (includeLeadingSign) {
         w.Put(negative ? s.negativeSign : s.positiveSign);
     }
     std::size_t const leadingSignLength = w.length - beforeLeadingSign;

@@ -124,6 +124,54 @@ TEST(FormatNumber, InfinityAndNanPassThrough) {
     Check(With(units::eNFExponential, 2), {{"INF", inf, L"INF"}});
 }
 
+// In the exponent forms the sign of an infinity or a not-a-number stands where the
+// exponent's sign would, and follows the exponent's switches; every other form keeps
+// the number's switches, finite exponent forms too.
+TEST(FormatNumber, SignsOfInfinityAndNanInTheExponentForms) {
+    double const inf = std::numeric_limits<double>::infinity(), nan = std::numeric_limits<double>::quiet_NaN();
+    enum Switch { kNone, kPlusSign, kWordSigns, kNoNegativeInExponent, kNoNegativeInNumber, kOnlyPositiveInExponent };
+    struct SignRow {
+        char const* label;
+        units::NumberFormat format;
+        Switch settings;
+        double value;
+        wchar_t const* expected;
+    } const rows[] = {
+        {"E +inf, defaults", units::eNFExponential, kNone, inf, L"INF"},
+        {"E -inf, defaults", units::eNFExponential, kNone, -inf, L"-INF"},
+        {"E -nan, defaults", units::eNFExponential, kNone, -nan, L"-NAN"},
+        {"E +inf, plus sign not in exponents", units::eNFExponential, kPlusSign, inf, L"INF"},
+        {"E +nan, plus sign not in exponents", units::eNFExponential, kPlusSign, nan, L"NAN"},
+        {"E finite keeps the number's plus", units::eNFExponential, kPlusSign, 1500, L"+1.50E03"},
+        {"E -inf, minus left out of exponents", units::eNFExponential, kNoNegativeInExponent, -inf, L"INF"},
+        {"E -inf, minus left out of numbers", units::eNFExponential, kNoNegativeInNumber, -inf, L"-INF"},
+        {"E finite, minus left out of numbers", units::eNFExponential, kNoNegativeInNumber, -1500, L"1.50E03"},
+        {"e +inf, plus only in exponents", units::eNFExponentialLower, kOnlyPositiveInExponent, inf, L"plusinf"},
+        {"e -nan, word signs", units::eNFExponentialLower, kWordSigns, -nan, L"minusnan"},
+        {"e -nan, minus left out of exponents", units::eNFExponentialLower, kNoNegativeInExponent, -nan, L"nan"},
+        {"G has no letter either, number's switches", units::eNFGeneral, kPlusSign, inf, L"+INF"},
+        {"g number's switches", units::eNFGeneralLower, kNoNegativeInExponent, -inf, L"-inf"},
+        {"f number's switches", units::eNFFixedPoint, kPlusSign, inf, L"+inf"},
+        {"Number, number's switches", units::eNFNumber, kNoNegativeInNumber, -inf, L"inf"},
+    };
+    for (SignRow const& r : rows) {
+        NumberSettings s = With(r.format, 2);
+        switch (r.settings) {
+            case kNone: break;
+            case kPlusSign: s.positiveSign = L"+"; break;
+            case kWordSigns: s.positiveSign = L"plus"; s.negativeSign = L"minus"; break;
+            case kNoNegativeInExponent: s.includeNegativeSignInExponent = false; break;
+            case kNoNegativeInNumber: s.includeNegativeSignInNumber = false; break;
+            case kOnlyPositiveInExponent:
+                s.positiveSign = L"plus";
+                s.includePositiveSignInExponent = true;
+                s.includePositiveSignInNumber = false;
+                break;
+        }
+        Check(s, {{r.label, r.value, r.expected}});
+    }
+}
+
 TEST(FormatNumber, BufferSizesAtTheEdge) {
     NumberSettings const s;
     wchar_t buffer[32];
