@@ -151,9 +151,18 @@ bool UnitsManagerImp::SetCurrentLocale(QString const& localeName) {
     return true;
 }
 
+namespace {
+
+// A copy that shares no data with the original. The manager's strings are replaced
+// by setters on other threads; Qt releases the old data through a reference count
+// that a ThreadSanitizer build cannot see inside Qt, so readers take copies of their own.
+QString OwnCopy(QString const& text) { return QString(text.constData(), text.size()); }
+
+}  // namespace
+
 QString UnitsManagerImp::GetCurrentLocale() const {
     std::lock_guard<std::recursive_mutex> const lock(s_mutex);
-    return m_strLocale;
+    return OwnCopy(m_strLocale);
 }
 
 unsigned long UnitsManagerImp::GetCurrentLocaleLCID() {
@@ -194,7 +203,7 @@ bool UnitsManagerImp::SetTranslatorFilesPath(QString const& path) {
 
 QString UnitsManagerImp::GetTranslatorFilesPath() const {
     std::lock_guard<std::recursive_mutex> const lock(s_mutex);
-    return m_strTranslatorFilesPath;
+    return OwnCopy(m_strTranslatorFilesPath);
 }
 
 }  // namespace kxnorth::platform::core::units
