@@ -38,12 +38,7 @@ UnitsUIConfig::UnitsUIConfig() {
     m_tableIndex.store(m_tableIndexVersions.back().get(), std::memory_order_release);
 }
 
-UnitsUIConfig::~UnitsUIConfig() {
-    // Symbols are owned by the tables and m_ownedParseSymbols; the dictionaries only
-    // point at them, and no reader is left at exit.
-    m_parseDict.store(nullptr, std::memory_order_relaxed);
-    m_tableIndex.store(nullptr, std::memory_order_relaxed);
-}
+UnitsUIConfig::~UnitsUIConfig() = default;
 
 UnitsUIConfig* UnitsUIConfig::GetInstance() {
     // A function-local static is built once even when threads race for it.

@@ -15,6 +15,7 @@
 
 #include "KxCoreUnitsUI/UnitsFormatter.h"
 #include "KxCoreUnitsUI/UnitsManager.h"
+#include "KxUnitsUIConfig.h"
 
 namespace units = kxnorth::platform::core::units;
 
@@ -280,4 +281,32 @@ TEST(FormatterThreads, ExistingFormattersKeepTheirLocaleAndLearnNewTexts) {
     double value = 0;
     EXPECT_EQ(before.Parse(L"3 Fuß", value, kMeter), 0);
     EXPECT_NEAR(value, 0.9144, 1e-12);
+}
+
+// Threads racing to create the first formatters of one locale build its table and
+// its version of the parse dictionary once; the same locale again adds nothing, so
+// the versions kept alive for readers stay one per locale with texts of its own.
+TEST(FormatterThreads, RacingFirstFormattersOfOneLocaleBuildItOnce) {
+    units::UnitsManager::Initialize();
+    units::UnitsUIConfig const* config = units::UnitsUIConfig::GetInstance();
+    std::size_t const before = config->ParseDictVersionCount();
+    auto const createAtOnce = [](wchar_t const* locale) {
+        constexpr int kThreads = 4;
+        StartGate gate(kThreads);
+        std::vector<std::thread> threads;
+        for (int t = 0; t < kThreads; ++t) {
+            threads.emplace_back([&] {
+                gate.ArriveAndWait();
+                units::UnitsFormatter const formatter(locale);
+                wchar_t text[64];
+                EXPECT_EQ(formatter.Format(1.5, kMeter, text, 64, 0x202001, nullptr), 0);
+            });
+        }
+        for (std::thread& thread : threads) thread.join();
+    };
+    createAtOnce(L"fr-FR");
+    std::size_t const afterFirst = config->ParseDictVersionCount();
+    EXPECT_LE(afterFirst, before + 1);
+    createAtOnce(L"fr-FR");
+    EXPECT_EQ(config->ParseDictVersionCount(), afterFirst);
 }
