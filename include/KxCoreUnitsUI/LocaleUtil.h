@@ -22,8 +22,8 @@ public:
     // The form QLocale accepts: "de-DE" gives "de", "de-CH" gives "de_CH".
     static QString LocaleNameToQtLocaleName(QString const& name);
 
-    // The user's locale identifier as the system spells it ("en_US"), in a static
-    // buffer that the next call overwrites.
+    // The user's locale identifier as the system spells it ("en_US"), in a buffer of
+    // the calling thread that the same thread's next call overwrites.
     static char const* GetUserDefaultLocaleForMac();
     static unsigned long GetUserDefaultLocaleLCIDForMac();
     // The user's locale as a table name in the system's spelling ("en-US").

@@ -8,9 +8,21 @@ namespace kxnorth::platform::core::units {
 
 class UnitsFormatterImp;
 
-// Not thread-safe: one thread at a time per formatter. Setters that can refuse return
-// 0 when done and 1 when refused, leaving every setting unchanged. Buffer sizes count
-// wide characters, terminator included.
+// Threads: any number of threads may each create, use and destroy their own
+// formatters at the same time, for any locales, with no warm-up: the first formatter
+// of a locale and the first UnitsManager::GetInstance() may happen on any thread, at
+// once. One formatter is used by one thread at a time (its setters change it, and so
+// does a degrees-minutes-seconds Format for the length of the call); hand it to
+// another thread with the usual synchronisation. Format and Parse take no lock.
+//
+// A formatter keeps what it was created with: its locale (the manager's current one
+// when created with an empty name), translations and symbol texts. Later calls of
+// UnitsManager::SetCurrentLocale or SetTranslatorFilesPath apply only to formatters
+// created afterwards. Parse reads the texts of every locale loaded in the process
+// so far, including locales first loaded after this formatter was created.
+//
+// Setters that can refuse return 0 when done and 1 when refused, leaving every
+// setting unchanged. Buffer sizes count wide characters, terminator included.
 class KXCOREUNITSUI_EXPORT UnitsFormatter {
 public:
     // The locale ("en-US") chooses display names and symbol texts; number settings

@@ -13,7 +13,13 @@ class UnitsManagerImp;
 // "KxUICore" translations installed; Uninitialize() destroys it, and must run while
 // the application object exists for the translators to be removed from it.
 //
-// Not thread-safe: use it from the thread that owns the application object.
+// Threads: GetInstance() may be called first from any thread, and from several at
+// once; they all get the one instance. The getters and setters may run while other
+// threads create formatters, format and parse; each setter is applied as a whole, so
+// a concurrent reader sees the state before or after it. Call the setters from the
+// thread that owns the application object: they install translators, and Qt sends
+// its language-change event on the calling thread. Initialize() and Uninitialize()
+// run while no other thread uses the library.
 class KXCOREUNITSUI_EXPORT UnitsManager {
 public:
     // Marks the library initialised. False, changing nothing, when it already is.

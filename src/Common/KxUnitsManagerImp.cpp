@@ -38,11 +38,12 @@ void Translator::Install() {
     file = QDir::cleanPath(file);
     if (m_bLoaded && m_strLoadedFile.compare(file, Qt::CaseInsensitive) == 0) return;
 
+    // Removing first keeps the translator in the application's list once, puts it
+    // back at the front of the search order, and keeps other threads' translations
+    // away from it while it loads the new file.
+    QCoreApplication::removeTranslator(this);
     bool const bLoaded = load(file, QString(), QString(), QString());
     KX_ASSERT(bLoaded);
-    // Removing first keeps the translator in the application's list once, and puts
-    // it back at the front of the search order.
-    QCoreApplication::removeTranslator(this);
     QCoreApplication::installTranslator(this);
     m_strLoadedFile = file;
     m_bLoaded = true;
@@ -51,8 +52,10 @@ void Translator::Install() {
 // ---------------------------------------------------------------------------
 // UnitsManagerImp
 
-bool UnitsManagerImp::m_bInitialized = false;
-UnitsManager* UnitsManagerImp::mpUnitsManager = nullptr;
+std::atomic<bool> UnitsManagerImp::m_bInitialized{false};
+std::atomic<UnitsManager*> UnitsManagerImp::mpUnitsManager{nullptr};
+UnitsManager* UnitsManagerImp::s_pCreating = nullptr;
+std::recursive_mutex UnitsManagerImp::s_mutex;
 
 UnitsManagerImp::UnitsManagerImp() : m_lcid(LocaleUtil::GetUserDefaultLocaleLCIDForMac()) {}
 
@@ -67,28 +70,34 @@ UnitsManagerImp::~UnitsManagerImp() {
 }
 
 bool UnitsManagerImp::Initialize() {
-    if (m_bInitialized) return false;
-    m_bInitialized = true;
+    if (m_bInitialized.exchange(true)) return false;
     KX_ASSERT(qApp != NULL);
     return true;
 }
 
 bool UnitsManagerImp::Uninitialize() {
-    delete mpUnitsManager;
-    mpUnitsManager = nullptr;
+    std::lock_guard<std::recursive_mutex> const lock(s_mutex);
+    delete mpUnitsManager.exchange(nullptr, std::memory_order_acq_rel);
     m_bInitialized = false;
     return true;
 }
 
 UnitsManager* UnitsManagerImp::GetInstance() {
-    if (mpUnitsManager != nullptr) return mpUnitsManager;
+    // Acquire pairs with the release below: a published instance is fully set up.
+    if (UnitsManager* pObj = mpUnitsManager.load(std::memory_order_acquire)) return pObj;
 
-    // Stored before InitializeInstance() so that translators installed while it runs
-    // find this instance instead of creating a second one.
-    mpUnitsManager = new UnitsManager();
-    UnitsManager* pObj = mpUnitsManager;
+    std::lock_guard<std::recursive_mutex> const lock(s_mutex);
+    if (UnitsManager* pObj = mpUnitsManager.load(std::memory_order_relaxed)) return pObj;
+    // Translators installed while InitializeInstance() runs come back here on this
+    // thread and find the instance in the making instead of creating a second one.
+    if (s_pCreating != nullptr) return s_pCreating;
+
+    UnitsManager* pObj = new UnitsManager();
     KX_ASSERT(pObj == NULL || pObj->m_pImpObj != NULL);
+    s_pCreating = pObj;
     pObj->m_pImpObj->InitializeInstance();
+    s_pCreating = nullptr;
+    mpUnitsManager.store(pObj, std::memory_order_release);
     return pObj;
 }
 
@@ -109,11 +118,15 @@ void UnitsManagerImp::SetImpObj(UnitsManager* pObj, UnitsManagerImp* pImpObj) {
 }
 
 void UnitsManagerImp::InitializeInstance() {
+    // Qt caches the application's folder on the first call, without a lock; the
+    // translator search of every later formatter, on any thread, only reads it.
+    if (QCoreApplication::instance() != nullptr) QCoreApplication::applicationDirPath();
     SetCurrentLocale(QString());
     InstallTranslator(QStringLiteral("KxUICore"));
 }
 
 bool UnitsManagerImp::SetCurrentLocale(QString const& localeName) {
+    std::lock_guard<std::recursive_mutex> const lock(s_mutex);
     // Compared with the stored name: after an empty name was replaced by the system
     // locale, another empty name runs the whole procedure again.
     if (m_bLocaleSet && localeName.compare(m_strLocale, Qt::CaseInsensitive) == 0) return true;
@@ -138,15 +151,32 @@ bool UnitsManagerImp::SetCurrentLocale(QString const& localeName) {
     return true;
 }
 
-QString UnitsManagerImp::GetCurrentLocale() const { return m_strLocale; }
+namespace {
 
-unsigned long UnitsManagerImp::GetCurrentLocaleLCID() { return m_lcid; }
+// A copy that shares no data with the original. The manager's strings are replaced
+// by setters on other threads; Qt releases the old data through a reference count
+// that a ThreadSanitizer build cannot see inside Qt, so readers take copies of their own.
+QString OwnCopy(QString const& text) { return QString(text.constData(), text.size()); }
+
+}  // namespace
+
+QString UnitsManagerImp::GetCurrentLocale() const {
+    std::lock_guard<std::recursive_mutex> const lock(s_mutex);
+    return OwnCopy(m_strLocale);
+}
+
+unsigned long UnitsManagerImp::GetCurrentLocaleLCID() {
+    std::lock_guard<std::recursive_mutex> const lock(s_mutex);
+    return m_lcid;
+}
 
 char const* UnitsManagerImp::GetCurrentLocaleThreeLetterISOLanguageName() const {
+    std::lock_guard<std::recursive_mutex> const lock(s_mutex);
     return m_pThreeLetterISOLanguageName;
 }
 
 bool UnitsManagerImp::InstallTranslator(QString const& module) {
+    std::lock_guard<std::recursive_mutex> const lock(s_mutex);
     QString const key = module.toLower();
     if (m_translators.value(key) != nullptr) return true;
 
@@ -157,11 +187,13 @@ bool UnitsManagerImp::InstallTranslator(QString const& module) {
 }
 
 void UnitsManagerImp::ReinstallTranslators() {
+    std::lock_guard<std::recursive_mutex> const lock(s_mutex);
     // QMap iterates in ascending key order.
     for (Translator* translator : std::as_const(m_translators)) translator->Install();
 }
 
 bool UnitsManagerImp::SetTranslatorFilesPath(QString const& path) {
+    std::lock_guard<std::recursive_mutex> const lock(s_mutex);
     if (path.compare(m_strTranslatorFilesPath, Qt::CaseInsensitive) == 0) return true;
     KX_ASSERT(qApp != NULL);
     m_strTranslatorFilesPath = path;
@@ -169,6 +201,9 @@ bool UnitsManagerImp::SetTranslatorFilesPath(QString const& path) {
     return true;
 }
 
-QString UnitsManagerImp::GetTranslatorFilesPath() const { return m_strTranslatorFilesPath; }
+QString UnitsManagerImp::GetTranslatorFilesPath() const {
+    std::lock_guard<std::recursive_mutex> const lock(s_mutex);
+    return OwnCopy(m_strTranslatorFilesPath);
+}
 
 }  // namespace kxnorth::platform::core::units

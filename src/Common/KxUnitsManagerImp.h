@@ -4,6 +4,8 @@
 #include <QMap>
 #include <QString>
 #include <QTranslator>
+#include <atomic>
+#include <mutex>
 
 namespace kxnorth::platform::core::units {
 
@@ -27,6 +29,12 @@ private:
     QString m_strLoadedFile;      // cleaned path of the loaded file
 };
 
+// The one instance is created under s_mutex and then published, so any thread may
+// make the first GetInstance() call. Its state (locale, path, translators) is read
+// and changed under the same lock; a setter holds it for its whole run, so a
+// reader sees the state before or after a change, never half of it. The lock is
+// recursive because installing a translator reads the state back through the
+// instance, and Qt's language-change event may call into the manager again.
 class UnitsManagerImp {
 public:
     UnitsManagerImp();
@@ -68,8 +76,11 @@ private:
     QString m_strTranslatorFilesPath;
     unsigned long m_lcid;
 
-    static bool m_bInitialized;
-    static UnitsManager* mpUnitsManager;
+    static std::atomic<bool> m_bInitialized;
+    static std::atomic<UnitsManager*> mpUnitsManager;
+    // The instance while InitializeInstance() runs, for that thread's own calls.
+    static UnitsManager* s_pCreating;
+    static std::recursive_mutex s_mutex;
 };
 
 }  // namespace kxnorth::platform::core::units

@@ -102,7 +102,8 @@ char const* LocaleUtil::GetUserDefaultLocaleForMac() {
     // since a cut identifier would name a different locale; cLocale is left empty
     // instead, which falls back like an unset locale. Table names have at most 10
     // characters, so no identifier that could match is lost.
-    static char cLocale[64];
+    // One buffer per thread: callers on different threads never share the text.
+    static thread_local char cLocale[64];
 
     char const* identifier = "";
     for (char const* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {

@@ -3,6 +3,8 @@
 #include "KxUnitsDisplayNames.h"
 
 #include <QFile>
+#include <array>
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -23,7 +25,7 @@ QMap<int, char const*> UnitsDisplayNames::s_groupMap;
 QMap<int, char const*> UnitsDisplayNames::s_unitMap;
 QMap<int, UnitsDisplayNames::SymbolData> UnitsDisplayNames::s_symbolMap;
 QMap<int, char const*> UnitsDisplayNames::s_numberFormatMap;
-QMap<QString, QMap<int, QStringList>> UnitsDisplayNames::s_symbolAlternatesMap;
+std::map<QString, std::unique_ptr<QMap<int, QStringList> const>> UnitsDisplayNames::s_symbolAlternatesMap;
 QStringList const UnitsDisplayNames::s_emptyStringList;
 
 namespace {
@@ -32,6 +34,9 @@ constexpr char kUnitsModule[] = "KxCoreUnitsUI";
 constexpr char kSymbolsModule[] = "KxCoreUnitsUI_units_symbols";
 constexpr char kAlternatesModule[] = "KxCoreUnitsUI_units_parsing_alternate_symbols";
 constexpr int kMaxAlternates = 10;
+
+// Guards s_symbolAlternatesMap while a locale's alternates are added.
+std::mutex s_alternatesMutex;
 
 // The first row of an identifier wins; later duplicates are ignored.
 void FillFrom(QMap<int, char const*>& map, detail::NameRow const* rows, bool negativeEnds) {
@@ -58,11 +63,9 @@ void UnitsDisplayNames::UseSystemLocale() {
     m_locale = length >= 1 ? QString::fromWCharArray(buffer, length) : QStringLiteral("en-US");
 }
 
-void UnitsDisplayNames::LoadTranslator(QTranslator& translator, QString const& module) {
-    UnitsManagerImp* pMgr = UnitsManagerImp::GetImpInstance();
-    KX_ASSERT(pMgr != NULL);
-    QString const file =
-        LocaleUtil::ResolveTranslatorFile(module, module, m_locale, pMgr->GetTranslatorFilesPath());
+void UnitsDisplayNames::LoadTranslator(QTranslator& translator, QString const& module,
+                                       QString const& translatorFilesPath) {
+    QString const file = LocaleUtil::ResolveTranslatorFile(module, module, m_locale, translatorFilesPath);
     bool const bLoaded = translator.load(file);
     KX_ASSERT(bLoaded);
 }
@@ -70,35 +73,42 @@ void UnitsDisplayNames::LoadTranslator(QTranslator& translator, QString const& m
 void UnitsDisplayNames::Initialize() {
     UnitsManagerImp* pMgr = UnitsManagerImp::GetImpInstance();
     KX_ASSERT(pMgr != NULL);
+    // Read once: a path changed by another thread meanwhile applies to the next
+    // object, not to half of this one's files.
+    QString const translatorFilesPath = pMgr->GetTranslatorFilesPath();
     // A locale without translations of its own falls back to the system locale; the
     // symbol modules follow whatever locale stands after that.
     QString const unitsFile = LocaleUtil::ResolveTranslatorFile(
-        QString::fromLatin1(kUnitsModule), QString::fromLatin1(kUnitsModule), m_locale,
-        pMgr->GetTranslatorFilesPath());
+        QString::fromLatin1(kUnitsModule), QString::fromLatin1(kUnitsModule), m_locale, translatorFilesPath);
     if (!QFile::exists(unitsFile)) UseSystemLocale();
-    LoadTranslator(m_unitsTranslator, QString::fromLatin1(kUnitsModule));
-    LoadTranslator(m_symbolsTranslator, QString::fromLatin1(kSymbolsModule));
-    LoadTranslator(m_alternatesTranslator, QString::fromLatin1(kAlternatesModule));
+    LoadTranslator(m_unitsTranslator, QString::fromLatin1(kUnitsModule), translatorFilesPath);
+    LoadTranslator(m_symbolsTranslator, QString::fromLatin1(kSymbolsModule), translatorFilesPath);
+    LoadTranslator(m_alternatesTranslator, QString::fromLatin1(kAlternatesModule), translatorFilesPath);
 
     FillNameMaps();
-    FillAlternates();
-    UnitsUIConfig::GetInstance()->LoadSymbols(m_locale, *this);
+    m_alternates = FillAlternates();
+    m_symbolTable = UnitsUIConfig::GetInstance()->LoadSymbols(m_locale, *this);
 }
 
 void UnitsDisplayNames::FillNameMaps() {
-    FillFrom(s_groupMap, detail::GroupNames, false);
-    FillFrom(s_unitMap, detail::unitNames, false);
-    if (s_symbolMap.isEmpty()) {
+    // Filled by the first object; call_once also makes the filled maps visible to
+    // every thread that gets past it.
+    static std::once_flag filled;
+    std::call_once(filled, [] {
+        FillFrom(s_groupMap, detail::GroupNames, false);
+        FillFrom(s_unitMap, detail::unitNames, false);
         for (detail::SymbolNameRow const* row = detail::symbolNames; row->id != 0; ++row) {
             if (!s_symbolMap.contains(row->id)) s_symbolMap.insert(row->id, {row->name, row->kind});
         }
-    }
-    FillFrom(s_numberFormatMap, detail::formatNames, true);
+        FillFrom(s_numberFormatMap, detail::formatNames, true);
+    });
 }
 
-void UnitsDisplayNames::FillAlternates() const {
-    if (s_symbolAlternatesMap.contains(m_locale)) return;
-    QMap<int, QStringList> alternates;
+QMap<int, QStringList> const* UnitsDisplayNames::FillAlternates() const {
+    std::lock_guard<std::mutex> const lock(s_alternatesMutex);
+    auto const known = s_symbolAlternatesMap.find(m_locale);
+    if (known != s_symbolAlternatesMap.end()) return known->second.get();
+    auto alternates = std::make_unique<QMap<int, QStringList>>();
     if (!m_alternatesTranslator.isEmpty()) {
         static char const* const kNumbers[kMaxAlternates] = {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10"};
         UnitsConfig const* config = UnitsConfig::GetInstance();
@@ -122,10 +132,12 @@ void UnitsDisplayNames::FillAlternates() const {
                 QString const text = m_alternatesTranslator.translate(context.constData(), key.c_str(), nullptr, -1);
                 if (!text.isEmpty()) list.append(text);
             }
-            if (!list.isEmpty()) alternates.insert(symbol, list);
+            if (!list.isEmpty()) alternates->insert(symbol, list);
         }
     }
-    s_symbolAlternatesMap.insert(m_locale, alternates);
+    QMap<int, QStringList> const* stored = alternates.get();
+    s_symbolAlternatesMap.emplace(m_locale, std::move(alternates));
+    return stored;
 }
 
 QString UnitsDisplayNames::unitName(teType unit) const {
@@ -160,10 +172,9 @@ QString UnitsDisplayNames::symbolName(UnitSymbol symbol) const {
 }
 
 QStringList const& UnitsDisplayNames::symbolAlternateNames(UnitSymbol symbol) const {
-    auto locale = s_symbolAlternatesMap.constFind(m_locale);
-    if (locale == s_symbolAlternatesMap.constEnd()) return s_emptyStringList;
-    auto it = locale->constFind(symbol & kIdentityMask);
-    return it == locale->constEnd() ? s_emptyStringList : it.value();
+    if (m_alternates == nullptr) return s_emptyStringList;
+    auto it = m_alternates->constFind(symbol & kIdentityMask);
+    return it == m_alternates->constEnd() ? s_emptyStringList : it.value();
 }
 
 QString UnitsDisplayNames::translate(QString const& context, QString const& text) const {
@@ -171,12 +182,24 @@ QString UnitsDisplayNames::translate(QString const& context, QString const& text
 }
 
 QString UnitsDisplayNames::symbolContext(UnitSymbol symbol) {
-    // One context per group, made on first use; group numbers run from 1 to 255.
-    static QString contexts[256];
+    // The contexts of the catalogue's groups (numbers 1 to 255), all made by the
+    // first call and read-only after it.
+    static std::array<QString, 256> const contexts = [] {
+        std::array<QString, 256> made;
+        UnitsConfig const* config = UnitsConfig::GetInstance();
+        if (config == nullptr) return made;
+        std::vector<int> groups(config->GetUnitGroups(nullptr));
+        config->GetUnitGroups(groups.data());
+        for (int group : groups) {
+            made[static_cast<std::size_t>((group & kGroupMask) >> 12)] =
+                QStringLiteral("UnitSymbol_") + StringUtil::GetUnitGlobalName(group & kGroupMask);
+        }
+        return made;
+    }();
     int const group = symbol & kGroupMask;
-    QString& context = contexts[group >> 12];
-    if (context.isEmpty()) context = QStringLiteral("UnitSymbol_") + StringUtil::GetUnitGlobalName(group);
-    return context;
+    QString const& context = contexts[static_cast<std::size_t>(group >> 12)];
+    // A group outside the catalogue is looked up as it comes, as any unknown name is.
+    return context.isEmpty() ? QStringLiteral("UnitSymbol_") + StringUtil::GetUnitGlobalName(group) : context;
 }
 
 }  // namespace kxnorth::platform::core::units

@@ -1,11 +1,16 @@
 // Translated names of unit groups, unit types, symbols and number formats for one
 // locale, and the alternate texts a user may type for a symbol.
+//
+// An object is used by one thread at a time, but any number of them may be made and
+// used at once: the process-wide maps behind them are filled once, under a lock, by
+// the first object that needs them, and never change after that.
 #pragma once
 
 #include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QTranslator>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -55,23 +60,27 @@ private:
 
     void UseSystemLocale();
     void Initialize();
-    void LoadTranslator(QTranslator& translator, QString const& module);
+    void LoadTranslator(QTranslator& translator, QString const& module, QString const& translatorFilesPath);
     static void FillNameMaps();
-    void FillAlternates() const;
+    // The locale's alternates, read from its translator by the first object of the
+    // locale; later objects share them.
+    QMap<int, QStringList> const* FillAlternates() const;
 
     QString m_locale;
     QTranslator m_unitsTranslator;
     QTranslator m_symbolsTranslator;
     QTranslator m_alternatesTranslator;
-    // The locale's symbol table, remembered on the first lookup through these names;
-    // tables live as long as the process.
-    mutable std::vector<std::vector<std::vector<std::unique_ptr<SymbolInfo>>>> const* m_symbolTable = nullptr;
+    // The locale's symbol table, set when the object is made; tables live as long as
+    // the process and never change.
+    std::vector<std::vector<std::vector<std::unique_ptr<SymbolInfo>>>> const* m_symbolTable = nullptr;
+    QMap<int, QStringList> const* m_alternates = nullptr;  // owned by s_symbolAlternatesMap
 
     static QMap<int, char const*> s_groupMap;
     static QMap<int, char const*> s_unitMap;
     static QMap<int, SymbolData> s_symbolMap;
     static QMap<int, char const*> s_numberFormatMap;
-    static QMap<QString, QMap<int, QStringList>> s_symbolAlternatesMap;
+    // Entries are added under a lock and never changed or removed.
+    static std::map<QString, std::unique_ptr<QMap<int, QStringList> const>> s_symbolAlternatesMap;
     static QStringList const s_emptyStringList;
 };
 

@@ -29,10 +29,19 @@ SymbolInfo::SymbolInfo(ISymbol* s)
     : symbol(s), format(dynamic_cast<IFormatSymbol const*>(s)), parse(dynamic_cast<IParseSymbol*>(s)) {}
 SymbolInfo::~SymbolInfo() { delete symbol; }
 
-UnitsUIConfig::UnitsUIConfig() { InitParseSymTbl(); }
+UnitsUIConfig::UnitsUIConfig() {
+    // Runs inside the initialisation of GetInstance's static: no other thread sees
+    // this object before the fixed symbols are published.
+    InitParseSymTbl();
+    PublishParseDict();
+    m_tableIndexVersions.push_back(std::make_unique<TableIndex const>());
+    m_tableIndex.store(m_tableIndexVersions.back().get(), std::memory_order_release);
+}
+
 UnitsUIConfig::~UnitsUIConfig() = default;
 
 UnitsUIConfig* UnitsUIConfig::GetInstance() {
+    // A function-local static is built once even when threads race for it.
     static UnitsUIConfig instance;
     return &instance;
 }
@@ -98,7 +107,34 @@ void UnitsUIConfig::AddToParseDict(QString const& text, IParseSymbol* symbol) {
     s_altSymbolCache.push_back(ConvertString(text));
     // The first stored copy of a text is the one the dictionary refers to.
     auto const [it, inserted] = s_firstCopy.emplace(s_altSymbolCache.back(), &s_altSymbolCache.back());
-    m_parseDict.Add(it->second->c_str(), symbol, false, false);
+    m_pendingParseEntries.emplace_back(it->second, symbol);
+}
+
+void UnitsUIConfig::PublishParseDict() {
+    ParseDict const* current = m_parseDict.load(std::memory_order_relaxed);
+    std::unique_ptr<ParseDict> next;
+    for (auto const& entry : m_pendingParseEntries) {
+        if (next == nullptr) {
+            // A text already in the dictionary keeps its first symbol, so a locale
+            // that brings nothing new publishes nothing and copies nothing.
+            if (current != nullptr) {
+                ParseDict::Match const m = current->Find(entry.first->c_str());
+                if (m.value != nullptr && m.length == entry.first->size()) continue;
+            }
+            next = std::make_unique<ParseDict>();
+            for (auto const& known : m_parseEntries) next->Add(known.first->c_str(), known.second, false, false);
+        }
+        if (next->Add(entry.first->c_str(), entry.second, false, false) == 0) m_parseEntries.push_back(entry);
+    }
+    m_pendingParseEntries.clear();
+    if (next == nullptr) return;
+    m_parseDictVersions.push_back(std::move(next));
+    m_parseDict.store(m_parseDictVersions.back().get(), std::memory_order_release);
+}
+
+std::size_t UnitsUIConfig::ParseDictVersionCount() const {
+    std::lock_guard<std::mutex> const lock(m_buildMutex);
+    return m_parseDictVersions.size();
 }
 
 void UnitsUIConfig::AddAlternatesToSymbolDict(UnitSymbol symbol, UnitsDisplayNames const& names,
@@ -113,7 +149,9 @@ void UnitsUIConfig::AddAlternatesToSymbolDict(UnitSymbol symbol, UnitsDisplayNam
 
 IParseSymbol const* UnitsUIConfig::FindSymbol(wchar_t const* text, unsigned long* length) const {
     if (text == nullptr) return nullptr;
-    UnitsStringDict<IParseSymbol const>::Match const m = m_parseDict.Find(text);
+    // Acquire pairs with the release in PublishParseDict: the whole version is seen.
+    ParseDict const* dict = m_parseDict.load(std::memory_order_acquire);
+    ParseDict::Match const m = dict->Find(text);
     if (m.value == nullptr || m.length == 0) return nullptr;
     if (length != nullptr) *length = static_cast<unsigned long>(m.length);
     return m.value;
@@ -158,15 +196,32 @@ ISymbol* UnitsUIConfig::CreateSymbol(int id, QString const& name, bool& parsable
     }
 }
 
-void UnitsUIConfig::LoadSymbols(QString const& locale, UnitsDisplayNames const& names) {
-    InitSymbolTable(locale, names);
+UnitsUIConfig::SymbolTable const* UnitsUIConfig::LoadSymbols(QString const& locale, UnitsDisplayNames const& names) {
+    return InitSymbolTable(locale, names);
 }
 
-void UnitsUIConfig::InitSymbolTable(QString const& locale, UnitsDisplayNames const& names) {
-    if (m_tables.count(locale) != 0) return;
-    SymbolTable& table = m_tables[locale];
-    UnitsConfig const* config = UnitsConfig::GetInstance();
-    if (config == nullptr) return;
+UnitsUIConfig::SymbolTable const* UnitsUIConfig::InitSymbolTable(QString const& locale,
+                                                                 UnitsDisplayNames const& names) {
+    std::lock_guard<std::mutex> const lock(m_buildMutex);
+    TableIndex const* index = m_tableIndex.load(std::memory_order_relaxed);
+    auto const found = index->find(locale);
+    if (found != index->end()) return found->second;
+
+    auto built = std::make_unique<SymbolTable>();
+    SymbolTable& table = *built;
+    if (UnitsConfig const* config = UnitsConfig::GetInstance()) BuildSymbolTable(table, config, names);
+
+    // The dictionary first: a formatter that finds the table also finds its texts.
+    PublishParseDict();
+    auto nextIndex = std::make_unique<TableIndex>(*index);
+    nextIndex->emplace(locale, built.get());
+    m_ownedTables.push_back(std::move(built));
+    m_tableIndexVersions.push_back(std::move(nextIndex));
+    m_tableIndex.store(m_tableIndexVersions.back().get(), std::memory_order_release);
+    return m_ownedTables.back().get();
+}
+
+void UnitsUIConfig::BuildSymbolTable(SymbolTable& table, UnitsConfig const* config, UnitsDisplayNames const& names) {
     std::vector<int> groups(config->GetUnitGroups(nullptr));
     config->GetUnitGroups(groups.data());
     for (int group : groups) {
@@ -195,7 +250,8 @@ void UnitsUIConfig::InitSymbolTable(QString const& locale, UnitsDisplayNames con
 }
 
 void UnitsUIConfig::InitSymbolTable(QString const& locale) const {
-    if (m_tables.count(locale) != 0) return;
+    TableIndex const* index = m_tableIndex.load(std::memory_order_acquire);
+    if (index->count(locale) != 0) return;
     // Building display names for the locale builds its table (or the table of the
     // locale it falls back to).
     UnitsDisplayNames const names(locale);
@@ -218,22 +274,22 @@ IParseSymbol const* UnitsUIConfig::FindParseSymbol(int id, UnitsDisplayNames con
 
 SymbolInfo const* UnitsUIConfig::FindSymbolInfo(int id, UnitsDisplayNames const& names) const {
     if ((id & kUnitIndexMask) != 0 && (id & 0xFF00000) == 0) id |= kDefaultSymbolBit;
-    if (names.m_symbolTable == nullptr) {
-        SymbolTable const* table = FindTable(names.locale());
-        if (table == nullptr) return nullptr;
-        names.m_symbolTable = table;
-    }
-    return FindInTable(*names.m_symbolTable, id);
+    // Display names remember their table when they are made; only names whose
+    // locale has no table fall back to the lookup by name.
+    SymbolTable const* table = names.m_symbolTable != nullptr ? names.m_symbolTable : FindTable(names.locale());
+    return table != nullptr ? FindInTable(*table, id) : nullptr;
 }
 
 UnitsUIConfig::SymbolTable const* UnitsUIConfig::FindTable(QString const& locale) const {
-    auto it = m_tables.find(locale);
-    if (it == m_tables.end()) {
+    TableIndex const* index = m_tableIndex.load(std::memory_order_acquire);
+    auto it = index->find(locale);
+    if (it == index->end()) {
         InitSymbolTable(locale);
-        it = m_tables.find(locale);
-        if (it == m_tables.end()) return nullptr;
+        index = m_tableIndex.load(std::memory_order_acquire);
+        it = index->find(locale);
+        if (it == index->end()) return nullptr;
     }
-    return &it->second;
+    return it->second;
 }
 
 SymbolInfo const* UnitsUIConfig::FindSymbolInfo(int id, QString const& locale) const {

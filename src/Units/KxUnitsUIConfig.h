@@ -1,13 +1,23 @@
 // The process-wide symbol configuration: per locale, the symbol object of every
 // catalogue symbol, and the one parse dictionary that typed text is cut with.
+//
+// Any thread may ask for a locale's table or look text up in the parse dictionary at
+// any time. Everything a reader can reach is frozen: a new locale's table is built
+// aside, its texts go into a new version of the parse dictionary, and both are then
+// published with one atomic store each. Readers take no lock; builders take
+// m_buildMutex, one locale at a time. Superseded versions stay alive until the
+// configuration is destroyed, because a reader may still be walking one.
 #pragma once
 
 #include <QString>
+#include <atomic>
 #include <list>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "KxCoreUnits/UnitsEnums.h"
@@ -19,6 +29,7 @@ namespace kxnorth::platform::core::units {
 class ISymbol;
 class IParseSymbol;
 class UnitsDisplayNames;
+class UnitsConfig;
 
 class IFormatSymbol;
 
@@ -42,9 +53,10 @@ public:
 
     static UnitsUIConfig* GetInstance();
 
-    // Builds the locale's table on its first request; later requests do nothing.
-    void LoadSymbols(QString const& locale, UnitsDisplayNames const& names);
-    void InitSymbolTable(QString const& locale, UnitsDisplayNames const& names);
+    // Builds the locale's table on its first request (later requests wait for it);
+    // returns the table, which stays valid and unchanged for the life of the process.
+    SymbolTable const* LoadSymbols(QString const& locale, UnitsDisplayNames const& names);
+    SymbolTable const* InitSymbolTable(QString const& locale, UnitsDisplayNames const& names);
     // Makes sure the locale's table exists, creating its display names when needed.
     void InitSymbolTable(QString const& locale) const;
 
@@ -72,21 +84,45 @@ public:
     UnitsUIConfig(UnitsUIConfig const&) = delete;
     UnitsUIConfig& operator=(UnitsUIConfig const&) = delete;
 
+    // How many versions of the parse dictionary have been published so far: one for
+    // the fixed symbols, then one per locale that brought texts not yet known.
+    std::size_t ParseDictVersionCount() const;
+
 private:
+    using ParseDict = UnitsStringDict<IParseSymbol const>;
+    using TableIndex = std::map<QString, SymbolTable const*>;
+
     UnitsUIConfig();
     ~UnitsUIConfig();
 
     int InitParseSymTbl();
+    // Queues one text for the next version of the parse dictionary; the caller holds
+    // m_buildMutex. PublishParseDict() makes the queued texts visible.
     void AddToParseDict(QString const& text, IParseSymbol* symbol);
+    void PublishParseDict();
     void AddAlternatesToSymbolDict(UnitSymbol symbol, UnitsDisplayNames const& names, SymbolTable const& table);
     void AddFixed(IParseSymbol* symbol, std::initializer_list<wchar_t> characters);
     ISymbol* CreateSymbol(int symbol, QString const& name, bool& parsable) const;
+    // Fills `table` and queues its texts for the parse dictionary (m_buildMutex held).
+    void BuildSymbolTable(SymbolTable& table, UnitsConfig const* config, UnitsDisplayNames const& names);
     SymbolTable const* FindTable(QString const& locale) const;
     static SymbolInfo const* FindInTable(SymbolTable const& table, int id);
 
-    std::map<QString, SymbolTable> m_tables;
+    // Published state, read without a lock.
+    std::atomic<TableIndex const*> m_tableIndex{nullptr};
+    std::atomic<ParseDict const*> m_parseDict{nullptr};
+
+    // Builder state: touched only with m_buildMutex held (or by the constructor).
+    mutable std::mutex m_buildMutex;
+    std::vector<std::unique_ptr<SymbolTable const>> m_ownedTables;
+    std::vector<std::unique_ptr<TableIndex const>> m_tableIndexVersions;
+    std::vector<std::unique_ptr<ParseDict const>> m_parseDictVersions;
+    // Every text the dictionary holds, with its symbol, in the order it was stored:
+    // the next version is built by adding them again, so it answers as the previous
+    // one did for every text they share.
+    std::vector<std::pair<std::wstring const*, IParseSymbol const*>> m_parseEntries;
+    std::vector<std::pair<std::wstring const*, IParseSymbol const*>> m_pendingParseEntries;
     std::vector<std::unique_ptr<IParseSymbol>> m_ownedParseSymbols;
-    UnitsStringDict<IParseSymbol const> m_parseDict;
 
     // Storage of every text added to the parse dictionary; the dictionary refers to
     // the first stored copy of each text. One entry is appended per call, also for a
