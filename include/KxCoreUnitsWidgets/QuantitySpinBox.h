@@ -6,11 +6,11 @@
 #include <QString>
 #include <memory>
 
+#include "KxCoreUnitsUI/UnitsFormatter.h"  // formatter() hands it to the host
 #include "KxCoreUnitsWidgets/KxCoreUnitsWidgetsExport.h"
 
 namespace kxnorth::platform::core::units {
 
-class UnitsFormatter;
 class QuantityValidator;
 
 // The value is kept in unit() and changes only when the person leaves the field or
