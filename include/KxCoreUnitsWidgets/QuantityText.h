@@ -11,10 +11,15 @@ namespace kxnorth::platform::core::units {
 class UnitsFormatter;
 
 // `value`, given in `unit`, written with `symbol` (0: the formatter's default symbol
-// of the unit's group). Empty when the formatter refuses (unknown unit, a symbol of
-// another quantity, a value it cannot write).
+// of `unit`). Empty when the formatter refuses (unknown unit, a symbol of another
+// quantity, a value it cannot write).
 KXCOREUNITSWIDGETS_EXPORT QString FormatQuantity(UnitsFormatter const& formatter, double value, int unit,
                                                  int symbol);
+
+// The formatter's default symbol of the default unit of `unit`'s group: what a field
+// of that quantity shows unless told otherwise ("meter" for lengths until the host
+// makes another unit or symbol the default). 0 when the group has none.
+KXCOREUNITSWIDGETS_EXPORT int GroupDefaultSymbol(UnitsFormatter const& formatter, int unit);
 
 // Reads `text` as a person types it into a value in `unit`. False, leaving `value`
 // untouched, when the formatter cannot read it.

@@ -31,7 +31,7 @@ public:
     // The unit that readable text is converted into; its group decides what reads.
     void setUnit(int unit);
     int unit() const { return m_unit; }
-    // The symbol fixup() writes in; 0: the formatter's default symbol of the group.
+    // The symbol fixup() writes in; 0: GroupDefaultSymbol() of the unit.
     void setDisplaySymbol(int symbol);
     int displaySymbol() const { return m_displaySymbol; }
 

@@ -146,8 +146,7 @@ void QuantitySpinBox::setDisplaySymbol(int symbol) {
 }
 
 int QuantitySpinBox::effectiveDisplaySymbol() const {
-    if (m_displaySymbol != 0) return m_displaySymbol;
-    return m_formatter->GetDefaultSymbol(m_formatter->GetDefaultUnit(m_unit & kGroupMask));
+    return m_displaySymbol != 0 ? m_displaySymbol : GroupDefaultSymbol(*m_formatter, m_unit);
 }
 
 void QuantitySpinBox::setValue(double value) {
@@ -274,7 +273,7 @@ void QuantitySpinBox::setValueAndShow(double value, bool emitSignal) {
 }
 
 void QuantitySpinBox::showValue() {
-    QString const text = FormatQuantity(*m_formatter, m_value, m_unit, m_displaySymbol);
+    QString const text = FormatQuantity(*m_formatter, m_value, m_unit, effectiveDisplaySymbol());
     m_shownText = text;
     if (lineEdit()->text() != text) lineEdit()->setText(text);
     if (m_errorText.isEmpty()) setToolTip(SiQuantityText(*m_formatter, m_value, m_unit));

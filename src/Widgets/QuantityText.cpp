@@ -96,6 +96,10 @@ QString FormatQuantity(UnitsFormatter const& formatter, double value, int unit, 
     return QString();
 }
 
+int GroupDefaultSymbol(UnitsFormatter const& formatter, int unit) {
+    return formatter.GetDefaultSymbol(formatter.GetDefaultUnit(unit & kGroupMask));
+}
+
 bool ParseQuantity(UnitsFormatter const& formatter, QString const& text, int unit, double& value) {
     double parsed = 0.0;
     if (formatter.Parse(Wide(text).c_str(), parsed, unit) != 0 || std::isnan(parsed)) return false;

@@ -98,7 +98,8 @@ QValidator::State QuantityValidator::validate(QString& input, int& /*pos*/) cons
 void QuantityValidator::fixup(QString& input) const {
     double value = 0.0;
     if (!read(input, value)) return;
-    QString const text = FormatQuantity(*m_formatter, value, m_unit, m_displaySymbol);
+    int const symbol = m_displaySymbol != 0 ? m_displaySymbol : GroupDefaultSymbol(*m_formatter, m_unit);
+    QString const text = FormatQuantity(*m_formatter, value, m_unit, symbol);
     if (!text.isEmpty()) input = text;
 }
 

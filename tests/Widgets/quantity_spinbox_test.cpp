@@ -289,6 +289,19 @@ TEST_F(QuantitySpinBoxTest, UnitsAndSymbolsOfTheSameQuantityConvertOthersAreRefu
     EXPECT_EQ(spin->toolTip(), QStringLiteral("0.7941248097 rad"));
 }
 
+TEST_F(QuantitySpinBoxTest, WithoutADisplaySymbolTheGroupsDefaultIsShownAndStepped) {
+    spin->setDisplaySymbol(0);
+    spin->setUnit(kFoot);
+    spin->setValue(1.0 / 0.3048);
+    EXPECT_EQ(Text(), QStringLiteral("1.00 meter")) << "the group's default unit, not the value's unit";
+    ASSERT_EQ(spin->formatter().SetDefaultUnit(kFoot), 0);
+    spin->refresh();
+    EXPECT_EQ(Text(), QStringLiteral("3.28 foot"));
+    QTest::keyClick(spin, Qt::Key_Up);
+    EXPECT_EQ(Text(), QStringLiteral("3.29 foot"));
+    EXPECT_DOUBLE_EQ(spin->value(), 3.29);
+}
+
 TEST_F(QuantitySpinBoxTest, RefreshShowsTheHostsNumberSettings) {
     spin->setValue(1234.56);
     spin->formatter().SetNumberDecimalPrecision(1);
