@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QAbstractSpinBox>
+#include <QPalette>
 #include <QString>
 #include <memory>
 
@@ -124,6 +125,7 @@ private:
     double m_singleStep = 0.0;
     QString m_shownText;  // the text last written from the value
     QString m_errorText;
+    QPalette m_normalPalette;  // the editor's colours outside the error state
     bool m_committing = false;
 };
 

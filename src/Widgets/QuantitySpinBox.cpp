@@ -215,6 +215,11 @@ void QuantitySpinBox::stepBy(int steps) {
     double const next = (std::round(shown / step) + steps) * step;
     double value = 0.0;
     if (!std::isfinite(next) || !fromDisplayUnit(next, value)) return;
+    // Wrapping jumps to the other end of a limited range.
+    if (wrapping() && m_minimum != -kUnlimited && m_maximum != kUnlimited) {
+        if (value > m_maximum && m_value >= m_maximum) value = m_minimum;
+        if (value < m_minimum && m_value <= m_minimum) value = m_maximum;
+    }
     setErrorText(QString());
     setValueAndShow(value, true);
     selectAll();
@@ -282,19 +287,21 @@ void QuantitySpinBox::showValue() {
 
 void QuantitySpinBox::setErrorText(QString const& text) {
     if (text == m_errorText) return;
+    bool const wasError = !m_errorText.isEmpty();
     m_errorText = text;
-    QPalette colours = palette();
     if (text.isEmpty()) {
-        colours = QPalette();
+        // Back to the colours the field had before, the host's own where it set them.
+        lineEdit()->setPalette(m_normalPalette);
         setToolTip(SiQuantityText(*m_formatter, m_value, m_unit));
     } else {
+        if (!wasError) m_normalPalette = lineEdit()->palette();
         // A light red field, whatever the style: the text stays legible.
+        QPalette colours = m_normalPalette;
         colours.setColor(QPalette::Base, QColor(0xFF, 0xDD, 0xDD));
         colours.setColor(QPalette::Text, QColor(0x80, 0x00, 0x00));
+        lineEdit()->setPalette(colours);
         setToolTip(text);
     }
-    setPalette(colours);
-    lineEdit()->setPalette(colours);
     Q_EMIT errorTextChanged(m_errorText);
 }
 

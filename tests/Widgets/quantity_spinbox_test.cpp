@@ -73,6 +73,7 @@ protected:
     }
 
     QString Text() const { return spin->text(); }
+    QLineEdit* Editor() const { return spin->findChild<QLineEdit*>(); }
 
     std::unique_ptr<QWidget> window;
     units::QuantitySpinBox* spin = nullptr;
@@ -116,6 +117,7 @@ TEST_F(QuantitySpinBoxTest, TypedTextSetsTheValueAndIsRewrittenInTheDisplaySymbo
 }
 
 TEST_F(QuantitySpinBoxTest, TextThatDoesNotReadKeepsTheValueAndSaysWhy) {
+    QColor const normalBase = Editor()->palette().color(QPalette::Base);
     char const* const texts[] = {"5 fx", "(1.7", "1.7 m)", "2 kg", "", "1 1/"};
     for (char const* typed : texts) {
         SCOPED_TRACE(typed);
@@ -127,6 +129,7 @@ TEST_F(QuantitySpinBoxTest, TextThatDoesNotReadKeepsTheValueAndSaysWhy) {
         EXPECT_EQ(Text(), QString::fromUtf8(typed)) << "the person's text stays to be corrected";
         EXPECT_FALSE(spin->errorText().isEmpty());
         EXPECT_EQ(spin->toolTip(), spin->errorText());
+        EXPECT_NE(Editor()->palette().color(QPalette::Base), normalBase);
         // Leaving the field again changes nothing either.
         QTest::keyClick(spin, Qt::Key_Tab);
         EXPECT_EQ(spin->value(), 2.5);
@@ -137,6 +140,7 @@ TEST_F(QuantitySpinBoxTest, TextThatDoesNotReadKeepsTheValueAndSaysWhy) {
     EXPECT_EQ(spin->value(), 3.0);
     EXPECT_TRUE(spin->errorText().isEmpty());
     EXPECT_EQ(spin->toolTip(), QStringLiteral("3 m"));
+    EXPECT_EQ(Editor()->palette().color(QPalette::Base), normalBase);
 }
 
 TEST_F(QuantitySpinBoxTest, TextNoContinuationCanFixIsMarkedWhileTypingButNotRefused) {
@@ -240,6 +244,12 @@ TEST_F(QuantitySpinBoxTest, RangeClampsTypedTextStepsAndSetValue) {
     EXPECT_EQ(spin->value(), 0.0);
     QTest::keyClick(spin, Qt::Key_Down);
     EXPECT_EQ(spin->value(), 0.0);
+    spin->setWrapping(true);
+    QTest::keyClick(spin, Qt::Key_Down);
+    EXPECT_EQ(spin->value(), 2.0) << "wrapping steps from the minimum to the maximum";
+    QTest::keyClick(spin, Qt::Key_Up);
+    EXPECT_EQ(spin->value(), 0.0);
+    spin->setWrapping(false);
     spin->setMaximum(-1.0);
     EXPECT_EQ(spin->minimum(), -1.0) << "a maximum below the minimum moves the minimum";
     EXPECT_EQ(spin->value(), -1.0);
