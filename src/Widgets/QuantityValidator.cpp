@@ -4,8 +4,12 @@
 #include <iterator>
 #include <vector>
 
+#include <QTranslator>
+
 #include "KxCoreUnits/UnitsConfig.h"
+#include "KxCoreUnitsUI/LocaleUtil.h"
 #include "KxCoreUnitsUI/UnitsFormatter.h"
+#include "KxCoreUnitsUI/UnitsManager.h"
 #include "KxCoreUnitsWidgets/QuantityText.h"
 
 namespace kxnorth::platform::core::units {
@@ -43,6 +47,30 @@ void CollectRuns(QString const& text, QString const& decimal, QString const& gro
         }
     }
     flush();
+}
+
+// The locale's alternate spellings that the formatter reads but never writes ("metre"
+// beside "meter"), from the same translation file the formatter loads. Keys are
+// "eS<global name>_Alternate<n>" in the context "UnitSymbol_<group>", n from 1 to 10.
+QTranslator* LoadAlternates(QString const& locale, QTranslator& translator) {
+    constexpr char kModule[] = "KxCoreUnitsUI_units_parsing_alternate_symbols";
+    UnitsManager const* manager = UnitsManager::GetInstance();
+    int const length = manager->GetTranslatorFilesPath(nullptr, 0);
+    std::vector<wchar_t> path(static_cast<std::size_t>(length) + 1, L'\0');
+    manager->GetTranslatorFilesPath(path.data(), length + 1);
+    QString const file = kxnorth::platform::core::locale::LocaleUtil::ResolveTranslatorFile(
+        QLatin1String(kModule), QLatin1String(kModule), locale, QString::fromWCharArray(path.data()));
+    return !file.isEmpty() && translator.load(file) ? &translator : nullptr;
+}
+
+void CollectAlternates(QTranslator const& translator, int group, int symbol, QStringList& out) {
+    UnitsConfig const* config = UnitsConfig::GetInstance();
+    QByteArray const context = "UnitSymbol_" + QString::fromWCharArray(config->GetGlobalName(group)).toUtf8();
+    QByteArray const stem = "eS" + QString::fromWCharArray(config->GetGlobalName(symbol)).toUtf8() + "_Alternate";
+    for (int n = 1; n <= 10; ++n) {
+        QString const text = translator.translate(context.constData(), (stem + QByteArray::number(n)).constData());
+        if (!text.isEmpty()) out << text;
+    }
 }
 
 QString Separator(UnitsFormatter const& formatter, bool decimal) {
@@ -139,7 +167,8 @@ bool QuantityValidator::completes(QString const& text) const {
 }
 
 // Every text the formatter writes around numbers in its locale, learnt once per
-// locale by writing 1 in each symbol of the catalogue (1,912 short Format calls).
+// locale by writing 1 in each symbol of the catalogue (1,912 short Format calls),
+// and the alternate spellings it reads.
 QStringList const& QuantityValidator::symbolTexts() const {
     QString const locale = QString::fromWCharArray(m_formatter->GetLocale());
     if (!m_symbolTexts.isEmpty() && locale == m_symbolTextsLocale) return m_symbolTexts;
@@ -147,6 +176,8 @@ QStringList const& QuantityValidator::symbolTexts() const {
     QString const decimal = Separator(*m_formatter, true);
     QString const group = Separator(*m_formatter, false);
     UnitsConfig const* config = UnitsConfig::GetInstance();
+    QTranslator translator;
+    QTranslator const* alternates = LoadAlternates(locale, translator);
     QStringList texts;
     std::vector<int> groups(config->GetUnitGroups(nullptr));
     config->GetUnitGroups(groups.data());
@@ -158,6 +189,7 @@ QStringList const& QuantityValidator::symbolTexts() const {
             config->GetUnitSymbols(unit, symbols.data());
             for (int const symbol : symbols) {
                 CollectRuns(FormatQuantity(*m_formatter, 1.0, unit, symbol), decimal, group, texts);
+                if (alternates != nullptr) CollectAlternates(*alternates, g, symbol, texts);
             }
         }
     }

@@ -50,11 +50,13 @@ TEST_F(QuantityValidatorTest, PartialInputIsIntermediateUntilNoContinuationCanFi
         {"2 m/s", kMetrePerSecond, QValidator::Acceptable},
         {"45°30'", kDegree, QValidator::Acceptable},
         {"45°", kDegree, QValidator::Acceptable},
+        {"5 metres", kFoot, QValidator::Acceptable},
         // On the way there.
         {"", kFoot, QValidator::Intermediate},
         {"   ", kFoot, QValidator::Intermediate},
         {"-", kFoot, QValidator::Intermediate},
         {"5 f", kFoot, QValidator::Intermediate},
+        {"5 metr", kFoot, QValidator::Intermediate},  // an alternate the formatter never writes
         {"(1.7", kFoot, QValidator::Intermediate},
         {"((1.7", kFoot, QValidator::Intermediate},
         {"1 1/", kFoot, QValidator::Intermediate},
