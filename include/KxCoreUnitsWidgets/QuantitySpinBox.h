@@ -25,7 +25,8 @@ class QuantityValidator;
 // singleStep() in the display symbol's unit, which is inches in the feet-and-inches
 // styles, and never change the display symbol.
 //
-// The units manager must be initialised before the first spin box is created.
+// The units manager must be initialised, and its translation files folder set, before
+// the first spin box is created: the spin box creates a formatter of its locale.
 class KXCOREUNITSWIDGETS_EXPORT QuantitySpinBox : public QAbstractSpinBox {
     Q_OBJECT
     Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged USER true)
