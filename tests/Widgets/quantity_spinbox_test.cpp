@@ -173,6 +173,7 @@ struct StepRow {
     int unit;
     int symbol;
     int precision;
+    double step;   // in the display symbol's unit; 0: the last place shown
     double start;  // in `unit`
     int key;       // Qt::Key_Up, Key_Down, Key_PageUp; 0: one wheel notch up
     char const* shown;
@@ -180,18 +181,20 @@ struct StepRow {
 
 TEST_F(QuantitySpinBoxTest, StepsMoveTheShownValueByOneLastPlaceInTheDisplaySymbol) {
     StepRow const rows[] = {
-        {"metres up from a rounded value", kMetre, kMetreSymbol, 2, 1.6891, Qt::Key_Up, "1.70 m"},
-        {"metres down", kMetre, kMetreSymbol, 2, 1.6891, Qt::Key_Down, "1.68 m"},
-        {"metres by the wheel", kMetre, kMetreSymbol, 2, 1.6891, 0, "1.70 m"},
-        {"page up is ten steps", kMetre, kMetreSymbol, 2, 1.0, Qt::Key_PageUp, "1.10 m"},
-        {"sixteenths of an inch", kMetre, kInchFractions, 4, 66.5 * kInchInMetres, Qt::Key_Up, "66 9/16\""},
-        {"sixteenths carry into a foot", kInch, kFeetInchFractions, 4, 11.9375, Qt::Key_Up, "1'-0\""},
-        {"eighths by the wheel", kInch, kFeetInchFractions, 3, 12.0, 0, "1'-1/8\""},
-        {"down through zero", kInch, kInchFractions, 4, 0.0, Qt::Key_Down, "-1/16\""},
-        {"decimal inches", kFoot, kFeetInchesDash, 2, 5.5, Qt::Key_Up, "5'-6.01\""},
-        {"feet stay feet", kFoot, kFootSymbol, 1, 9.96, Qt::Key_Up, "10.1 ft"},
-        {"seconds of arc", kDegree, kDegreesMinutesSeconds, 4, 45.0, Qt::Key_Up, "45°0'1\""},
-        {"minutes of arc", kDegree, kDegreesMinutesSeconds, 2, 45.0, Qt::Key_Down, "44°59'"},
+        {"metres up from a rounded value", kMetre, kMetreSymbol, 2, 0, 1.6891, Qt::Key_Up, "1.70 m"},
+        {"metres down", kMetre, kMetreSymbol, 2, 0, 1.6891, Qt::Key_Down, "1.68 m"},
+        {"metres by the wheel", kMetre, kMetreSymbol, 2, 0, 1.6891, 0, "1.70 m"},
+        {"page up is ten steps", kMetre, kMetreSymbol, 2, 0, 1.0, Qt::Key_PageUp, "1.10 m"},
+        {"sixteenths of an inch", kMetre, kInchFractions, 4, 0, 66.5 * kInchInMetres, Qt::Key_Up, "66 9/16\""},
+        {"sixteenths carry into a foot", kInch, kFeetInchFractions, 4, 0, 11.9375, Qt::Key_Up, "1'-0\""},
+        {"half inches, explicitly; the next rows step by default again", kInch, kFeetInchFractions, 4, 0.5, 0.0, 0, "0'-1/2\""},
+        {"eighths by the wheel", kInch, kFeetInchFractions, 3, 0, 12.0, 0, "1'-1/8\""},
+        {"down through zero", kInch, kInchFractions, 4, 0, 0.0, Qt::Key_Down, "-1/16\""},
+        {"decimal inches", kFoot, kFeetInchesDash, 2, 0, 5.5, Qt::Key_Up, "5'-6.01\""},
+        {"explicit steps stay in feet", kFoot, kFootSymbol, 2, 0.25, 1.0, Qt::Key_Down, "0.75 ft"},
+        {"feet stay feet", kFoot, kFootSymbol, 1, 0, 9.96, Qt::Key_Up, "10.1 ft"},
+        {"seconds of arc", kDegree, kDegreesMinutesSeconds, 4, 0, 45.0, Qt::Key_Up, "45°0'1\""},
+        {"minutes of arc", kDegree, kDegreesMinutesSeconds, 2, 0, 45.0, Qt::Key_Down, "44°59'"},
     };
     for (StepRow const& row : rows) {
         SCOPED_TRACE(row.name);
@@ -199,6 +202,7 @@ TEST_F(QuantitySpinBoxTest, StepsMoveTheShownValueByOneLastPlaceInTheDisplaySymb
         spin->setDisplaySymbol(row.symbol);
         ASSERT_EQ(spin->displaySymbol(), row.symbol);
         ASSERT_EQ(spin->formatter().SetNumberDecimalPrecision(row.precision), 0);
+        spin->setSingleStep(row.step);
         spin->setValue(row.start);
         spin->refresh();
         spin->setFocus();
@@ -210,18 +214,6 @@ TEST_F(QuantitySpinBoxTest, StepsMoveTheShownValueByOneLastPlaceInTheDisplaySymb
         EXPECT_EQ(Text(), QString::fromUtf8(row.shown));
         EXPECT_EQ(spin->displaySymbol(), row.symbol) << "stepping never switches unit";
     }
-}
-
-TEST_F(QuantitySpinBoxTest, AnExplicitStepIsInTheDisplaySymbolsUnit) {
-    spin->setDisplaySymbol(kFeetInchFractions);
-    spin->formatter().SetNumberDecimalPrecision(4);
-    spin->setSingleStep(0.5);  // half an inch
-    spin->setValue(0.0);
-    Wheel(3);
-    EXPECT_NEAR(spin->value(), 1.5 * kInchInMetres, 1e-15);
-    EXPECT_EQ(Text(), QStringLiteral("0'-1-1/2\""));
-    spin->setSingleStep(0);
-    EXPECT_EQ(spin->singleStep(), 1.0 / 16) << "0 goes back to the last place shown";
 }
 
 TEST_F(QuantitySpinBoxTest, RangeClampsTypedTextStepsAndSetValue) {
@@ -319,7 +311,7 @@ TEST_F(QuantitySpinBoxTest, RefreshShowsTheHostsNumberSettings) {
     EXPECT_EQ(Text(), QStringLiteral("1,234.56 m")) << "unchanged until refreshed";
     spin->refresh();
     EXPECT_EQ(Text(), QStringLiteral("1'234.6 m"));
-    EXPECT_EQ(spin->singleStep(), 0.1);
+    EXPECT_EQ(spin->singleStep(), 0.1) << "one last place at the new precision";
 }
 
 }  // namespace

@@ -37,21 +37,6 @@ Grad Rankine (°R) | 527,67°R
 SI | 293,15 K
 ]=] --locale de-DE --group 0x2A000 --precision 2 --text "68 °F")
 
-# Text that does not read leaves the value where it was.
-expect_rows([=[5 fx
-meter (m) | 1.69 m
-millimeter (mm) | 1,689.10 mm
-kilometer (km) | 0.00 km
-inch (in) | 66.50 in
-foot (ft) | 5.54 ft
-yard (yd) | 1.85 yd
-mile (mi) | 0.00 mi
-inch (ft-in (dash)) | 5'-6.50"
-inch (ft-in (dash, fraction)) | 5'-6-1/2"
-inch (in (fraction)) | 66 1/2"
-SI | 1.6891 m
-]=] --locale en-US --precision 2 --text "5 fx")
-
 get_filename_component(png_dir "${OUTPUT_PNG}" DIRECTORY)
 file(MAKE_DIRECTORY "${png_dir}")
 file(REMOVE "${OUTPUT_PNG}")
