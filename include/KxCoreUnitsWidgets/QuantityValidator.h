@@ -16,7 +16,8 @@ class UnitsFormatter;
 // "5 f" on its way to "5 ft", "(1.7", "1 1/", "2 m/" in a velocity field); Invalid
 // when none of the continuations tried does: a number, a closing parenthesis or the
 // rest of one of the locale's symbol texts. A QLineEdit refuses keys that make its
-// text Invalid, so the judgement errs towards Intermediate.
+// text Invalid, so the judgement errs towards Intermediate: text longer than 256
+// characters that does not read is Intermediate without trying continuations.
 //
 // The formatter is the host's and must outlive the validator (or be replaced first).
 class KXCOREUNITSWIDGETS_EXPORT QuantityValidator : public QValidator {

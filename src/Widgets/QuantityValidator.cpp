@@ -120,6 +120,10 @@ QValidator::State QuantityValidator::validate(QString& input, int& /*pos*/) cons
     double value = 0.0;
     if (read(input, value)) return Acceptable;
     if (input.trimmed().isEmpty()) return Intermediate;
+    // Continuations are tried only on text of a length people type: each try reads the
+    // whole text again, and a long paste must not stall every key that follows.
+    constexpr qsizetype kLongestJudgedText = 256;
+    if (input.size() > kLongestJudgedText) return Intermediate;
     return completes(input) ? Intermediate : Invalid;
 }
 

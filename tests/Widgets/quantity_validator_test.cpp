@@ -75,6 +75,10 @@ TEST_F(QuantityValidatorTest, PartialInputIsIntermediateUntilNoContinuationCanFi
         SCOPED_TRACE(row.text);
         EXPECT_EQ(State(QString::fromUtf8(row.text), row.unit), row.state);
     }
+    // A long paste is read once, never tried with continuations.
+    QString const nested = QStringLiteral("(").repeated(130) + QStringLiteral("1") + QStringLiteral(")").repeated(130);
+    EXPECT_EQ(State(nested + QStringLiteral(" m"), kFoot), QValidator::Acceptable);
+    EXPECT_EQ(State(QStringLiteral("5 fx").repeated(100), kFoot), QValidator::Intermediate);
 }
 
 TEST_F(QuantityValidatorTest, FixupRewritesReadableTextInTheDisplaySymbolOnly) {
