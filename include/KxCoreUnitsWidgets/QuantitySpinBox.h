@@ -54,13 +54,14 @@ public:
     // Rewrites the text from the value with the formatter's current settings.
     void refresh();
 
-    // Any unit identifier of the catalogue (default: metre). The value is converted
-    // into the new unit when both measure the same quantity and kept as a number
-    // otherwise; the range becomes unlimited when the quantity changes.
+    // Any unit identifier of the catalogue (default: metre). Within one group the
+    // value and the range are converted into the new unit (valueChanged and
+    // rangeChanged follow); into another group the value is kept as a number, the
+    // range becomes unlimited and the display symbol 0.
     void setUnit(int unit);
     int unit() const { return m_unit; }
     // 0 (default): the formatter's default symbol of the unit's group. A symbol of
-    // another quantity is refused and leaves the display symbol as it is.
+    // another group is refused and leaves the display symbol as it is.
     void setDisplaySymbol(int symbol);
     int displaySymbol() const { return m_displaySymbol; }
     // The symbol the text is written with.

@@ -48,11 +48,7 @@ bool WritesMinutesAndSeconds(int symbol) {
 
 UnitConverter const* ConverterOf(int id) { return UnitsConfig::GetInstance()->FindConverter(id & kUnitMask); }
 
-bool SameDimensions(int a, int b) {
-    UnitConverter const* ca = ConverterOf(a);
-    UnitConverter const* cb = ConverterOf(b);
-    return ca != nullptr && cb != nullptr && ca->IsCompatible(cb->GetDimTag());
-}
+bool SameGroup(int a, int b) { return (a & kGroupMask) == (b & kGroupMask); }
 
 // `value` in unit `from` as a value in unit `to` (same dimensions).
 bool Convert(double value, int from, int to, double& out) {
@@ -106,36 +102,39 @@ void QuantitySpinBox::refresh() {
     showValue();
 }
 
+// Units of one group measure the same quantity; groups that share dimensions (energy
+// and torque, angle and ratio) do not, so a value is not carried between them.
 void QuantitySpinBox::setUnit(int unit) {
     if (unit == m_unit || ConverterOf(unit) == nullptr) return;
-    bool const sameQuantity = SameDimensions(unit, m_unit);
+    bool const sameQuantity = SameGroup(unit, m_unit);
     double value = m_value;
+    double minimum = -kUnlimited, maximum = kUnlimited;
     if (sameQuantity) {
-        double minimum = m_minimum, maximum = m_maximum;
         if (!Convert(m_value, m_unit, unit, value)) value = m_value;
-        if (m_minimum != -kUnlimited && Convert(m_minimum, m_unit, unit, minimum)) m_minimum = minimum;
-        if (m_maximum != kUnlimited && Convert(m_maximum, m_unit, unit, maximum)) m_maximum = maximum;
-    } else {
-        m_minimum = -kUnlimited;
-        m_maximum = kUnlimited;
-        if (m_displaySymbol != 0) {
-            m_displaySymbol = 0;
-            m_validator->setDisplaySymbol(0);
-            Q_EMIT displaySymbolChanged(0);
-        }
+        if (m_minimum == -kUnlimited || !Convert(m_minimum, m_unit, unit, minimum)) minimum = m_minimum;
+        if (m_maximum == kUnlimited || !Convert(m_maximum, m_unit, unit, maximum)) maximum = m_maximum;
+    } else if (m_displaySymbol != 0) {
+        m_displaySymbol = 0;
+        m_validator->setDisplaySymbol(0);
+        Q_EMIT displaySymbolChanged(0);
     }
+    bool const rangeMoved = minimum != m_minimum || maximum != m_maximum;
+    bool const valueMoved = value != m_value;
     m_unit = unit;
     m_value = value;
+    m_minimum = minimum;
+    m_maximum = maximum;
     m_validator->setUnit(unit);
     Q_EMIT unitChanged(unit);
-    if (!sameQuantity) Q_EMIT rangeChanged(m_minimum, m_maximum);
+    if (rangeMoved) Q_EMIT rangeChanged(m_minimum, m_maximum);
+    if (valueMoved) Q_EMIT valueChanged(m_value);
     setErrorText(QString());
     showValue();
 }
 
 void QuantitySpinBox::setDisplaySymbol(int symbol) {
     if (symbol == m_displaySymbol) return;
-    if (symbol != 0 && (!SameDimensions(symbol, m_unit) || FormatQuantity(*m_formatter, 0.0, m_unit, symbol).isEmpty())) {
+    if (symbol != 0 && (!SameGroup(symbol, m_unit) || FormatQuantity(*m_formatter, 0.0, m_unit, symbol).isEmpty())) {
         return;
     }
     m_displaySymbol = symbol;

@@ -276,9 +276,14 @@ TEST_F(QuantitySpinBoxTest, ALocaleChangeRewritesTheTextAndReadsTheLocalesNumber
 TEST_F(QuantitySpinBoxTest, UnitsAndSymbolsOfTheSameQuantityConvertOthersAreRefused) {
     spin->setValue(1.0);
     spin->setRange(0.0, 3.0);
+    QSignalSpy valueChanged(spin, &units::QuantitySpinBox::valueChanged);
+    QSignalSpy rangeChanged(spin, &units::QuantitySpinBox::rangeChanged);
     spin->setUnit(kFoot);
     EXPECT_NEAR(spin->value(), 1.0 / 0.3048, 1e-12);
     EXPECT_NEAR(spin->maximum(), 3.0 / 0.3048, 1e-12);
+    EXPECT_EQ(valueChanged.count(), 1);
+    EXPECT_EQ(rangeChanged.count(), 1);
+    EXPECT_EQ(Text(), QStringLiteral("1.00 m")) << "the same length, shown as before";
     EXPECT_EQ(spin->toolTip(), QStringLiteral("1 m"));
 
     spin->setDisplaySymbol(kDegreesMinutesSeconds);
@@ -286,6 +291,10 @@ TEST_F(QuantitySpinBoxTest, UnitsAndSymbolsOfTheSameQuantityConvertOthersAreRefu
 
     spin->setUnit(kDegree);
     EXPECT_EQ(spin->maximum(), std::numeric_limits<double>::max()) << "a new quantity has no range";
+    EXPECT_EQ(spin->displaySymbol(), 0);
+    constexpr int kUnitless = 0x1001;  // dimensionless like the angle, but another quantity
+    spin->setDisplaySymbol(kUnitless | 0x100000);
+    EXPECT_EQ(spin->displaySymbol(), 0);
     Type(QStringLiteral("45°30'"));
     EXPECT_DOUBLE_EQ(spin->value(), 45.5);
     EXPECT_EQ(spin->toolTip(), QStringLiteral("0.7941248097 rad"));
