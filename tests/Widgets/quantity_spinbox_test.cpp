@@ -313,6 +313,19 @@ TEST_F(QuantitySpinBoxTest, WithoutADisplaySymbolTheGroupsDefaultIsShownAndStepp
     EXPECT_DOUBLE_EQ(spin->value(), 3.29);
 }
 
+TEST_F(QuantitySpinBoxTest, BareNumbersAreReadInTheFormattersDefaultNotTheDisplaySymbol) {
+    spin->setDisplaySymbol(kFeetInchFractions);
+    Type(QStringLiteral("5"));
+    EXPECT_EQ(spin->value(), 5.0) << "metres, the group's default";
+    spin->setDisplaySymbol(0);
+    ASSERT_EQ(spin->formatter().SetDefaultUnit(kFoot), 0);
+    ASSERT_EQ(spin->formatter().SetDefaultSymbol(kFootSymbol), 0);
+    spin->refresh();
+    Type(QStringLiteral("5"));
+    EXPECT_DOUBLE_EQ(spin->value(), 5 * 0.3048);
+    EXPECT_EQ(Text(), QStringLiteral("5.00 ft"));
+}
+
 TEST_F(QuantitySpinBoxTest, RefreshShowsTheHostsNumberSettings) {
     spin->setValue(1234.56);
     spin->formatter().SetNumberDecimalPrecision(1);
