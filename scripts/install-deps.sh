@@ -1,12 +1,14 @@
 #!/usr/bin/env bash
-# Installs every Debian package the build, the tests, the benchmarks (with the peers they
-# are compared against: ICU, UDUNITS-2) and the fuzz targets (clang with libFuzzer) need.
+# Installs every Debian package the build, the tests (with a font for the widgets drawn
+# offscreen), the benchmarks (with the peers they are compared against: ICU, UDUNITS-2)
+# and the fuzz targets (clang with libFuzzer) need.
 # Idempotent: asks apt only for what is missing, and refreshes the package lists only then.
 set -euo pipefail
 
 packages=(
   build-essential cmake python3
   qt6-base-dev qt6-l10n-tools
+  fonts-dejavu-core
   libgtest-dev libgmock-dev libbenchmark-dev
   libicu-dev libudunits2-dev
   clang libclang-rt-14-dev

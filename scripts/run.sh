@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # The main job: builds the libraries and tools, then shows kxunits at work on real
 # inputs: the shipped locales; formatting, reading and converting quantities in English,
-# German and French; a typing mistake; the repl answering piped lines.
+# German and French; a typing mistake; the repl answering piped lines; the converter
+# window writing its rows and drawing itself.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 ./scripts/install-deps.sh
@@ -49,3 +50,12 @@ show parse '5 fx' Foot
 
 echo "\$ printf '%s\n' \"5' 6 1/2\\\"\" '2.5 m' '3 yd' | kxunits repl Length"
 printf '%s\n' "5' 6 1/2\"" '2.5 m' '3 yd' | "$kxunits" repl Length
+
+# The converter window, without a display: its rows for typed text, and its picture.
+echo
+echo "\$ kxunits-gui --print --locale de-DE --symbol 0x802016 --text '1,7 m'"
+QT_QPA_PLATFORM=offscreen ./build/bin/kxunits-gui --print --locale de-DE --symbol 0x802016 --text '1,7 m' 2>/dev/null
+mkdir -p build/docs
+QT_QPA_PLATFORM=offscreen ./build/bin/kxunits-gui --locale en-US --symbol 0x802016 --text '1.7 m' \
+  --screenshot build/docs/converter.png 2>/dev/null
+echo "(the window drawn into build/docs/converter.png)"

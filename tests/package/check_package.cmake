@@ -18,3 +18,5 @@ run("${CMAKE_COMMAND}" -S "${CONSUMER_DIR}" -B "${consumer_build}"
 run("${CMAKE_COMMAND}" --build "${consumer_build}")
 run("${consumer_build}/consumer")
 message(STATUS "${last_output}")
+run("${consumer_build}/widgets_consumer")
+message(STATUS "${last_output}")

@@ -21,3 +21,8 @@ expect_output("de-DE  0x0407 [^\n]*${prefix}/share/KxCoreUnitsUI/translations/de
 expect_output("fr-FR  0x040c" "${tool}" locales)
 expect_output("\"Länge\"" "${tool}" units Length --locale de-DE)
 expect_output("\"Longueur\"" "${tool}" units Length --locale fr-FR)
+
+# The converter window is installed beside it and finds the same translations.
+set(ENV{QT_QPA_PLATFORM} offscreen)
+expect_output("Zoll \\(Fuß-Zoll \\(Strich, Bruch\\)\\)\t5'-6-1/2\"" "${prefix}/bin/kxunits-gui" --print
+  --locale de-DE --text "66,5 in")
