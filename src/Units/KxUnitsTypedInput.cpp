@@ -374,7 +374,8 @@ private:
                             continue;
                         case TokenKind::eNegativeSign:
                         case TokenKind::eDash: {
-                            if (depth > 0 || waiting >= 0) return Fail(t.offset, Reason::eOperatorWithoutOperands);
+                            if (waiting >= 0) return Fail(m_tokens[waiting].offset, Reason::eOperatorWithoutOperands);
+                            if (depth > 0) return Fail(t.offset, Reason::eOperatorWithoutOperands);
                             int const next = NextNonSpace(i + 1);
                             if (t.kind == TokenKind::eDash && Is(next, TokenKind::eUnit)) {
                                 waiting = i;  // `ft-lbf`: a product, as the evaluation reads it
@@ -404,7 +405,8 @@ private:
                         }
                         case TokenKind::ePlus:
                         case TokenKind::ePositiveSign:
-                            if (depth > 0 || waiting >= 0) return Fail(t.offset, Reason::eOperatorWithoutOperands);
+                            if (waiting >= 0) return Fail(m_tokens[waiting].offset, Reason::eOperatorWithoutOperands);
+                            if (depth > 0) return Fail(t.offset, Reason::eOperatorWithoutOperands);
                             Current().last = i;
                             sign = 1;
                             hasLeadingSign = false;
