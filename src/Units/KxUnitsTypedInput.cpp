@@ -49,20 +49,25 @@ struct Token {
     int flags;                   // eNumber: the reader's flags without the sign bits
 };
 
+// Asked once per symbol of a text the evaluation refused: the common kinds are
+// answered by the symbols' own records, and only the rarer ones need a cast.
 TokenKind KindOf(IParseSymbol const* symbol) {
+    if (ParseCast<OperandSymbol>(symbol) != nullptr) return TokenKind::eUnit;
     if (ParseCast<SpaceSymbol>(symbol) != nullptr) return TokenKind::eSpace;
-    if (ParseCast<LeftParenthesisSymbol>(symbol) != nullptr) return TokenKind::eLeftParenthesis;
-    if (ParseCast<RightParenthesisSymbol>(symbol) != nullptr) return TokenKind::eRightParenthesis;
-    if (ParseCast<DivisionSymbol>(symbol) != nullptr) return TokenKind::eDivision;
-    if (dynamic_cast<DashSymbol const*>(symbol) != nullptr) return TokenKind::eDash;
-    if (dynamic_cast<CaretSymbol const*>(symbol) != nullptr) return TokenKind::eCaret;
     if (OperatorSymbol const* op = ParseCast<OperatorSymbol>(symbol)) {
-        return (op->GetKind() & 3) == OperatorSymbol::eImmediate ? TokenKind::ePostfix : TokenKind::eProduct;
+        if (ParseCast<LeftParenthesisSymbol>(symbol) != nullptr) return TokenKind::eLeftParenthesis;
+        if (ParseCast<RightParenthesisSymbol>(symbol) != nullptr) return TokenKind::eRightParenthesis;
+        if (ParseCast<DivisionSymbol>(symbol) != nullptr) return TokenKind::eDivision;
+        if ((op->GetKind() & 3) != OperatorSymbol::eImmediate) return TokenKind::eProduct;
+        return dynamic_cast<CaretSymbol const*>(symbol) != nullptr ? TokenKind::eCaret : TokenKind::ePostfix;
     }
+    if (dynamic_cast<DashSymbol const*>(symbol) != nullptr) return TokenKind::eDash;
     return TokenKind::eUnit;
 }
 
+// Units with an offset are no operands: their value depends on where they stand.
 bool IsOffsetUnit(IParseSymbol const* symbol) {
+    if (ParseCast<OperandSymbol>(symbol) != nullptr) return false;
     return dynamic_cast<BasicLinearSymbol<SimpleFormatSymbol> const*>(symbol) != nullptr ||
            dynamic_cast<BasicLinearSymbol<SimpleFormatSymbol2> const*>(symbol) != nullptr;
 }
@@ -83,6 +88,7 @@ struct Quantity {
 // Marks of a run go from the larger unit to the next smaller: `45°30'15"`, `5'6"`.
 // Anything else is far likelier a slip than a sum (`5'6'` meant `5'6"`).
 int MarkRank(IParseSymbol const* symbol) {
+    if (ParseCast<OperandSymbol>(symbol) != nullptr) return -1;
     if (dynamic_cast<DegreeSymbol const*>(symbol) != nullptr) return 0;
     if (ParseCast<PrimeSymbol>(symbol) != nullptr) return 1;
     if (ParseCast<DoublePrimeSymbol>(symbol) != nullptr) return 2;
