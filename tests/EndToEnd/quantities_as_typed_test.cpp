@@ -94,6 +94,21 @@ TEST_F(QuantitiesAsTyped, ThePositiveSignSettingChangesNoReading) {
     ExpectReadings(f, rows);
 }
 
+TEST_F(QuantitiesAsTyped, TheNegativeSignIsTheFormattersOwn) {
+    // An odd sign shows any hyphen taken for granted: the sign is "~", while a dash
+    // keeps its places as joiner and, after a space, as the operator of a difference.
+    units::UnitsFormatter f(L"en-US");
+    f.SetNegativeSign(L"~");
+    Reading const rows[] = {
+        {L"~5 ft 6 in", kInch, -66}, {L"5 ft ~6 in", kInch, 54},  {L"5ft~6in", kInch, 66},
+        {L"10 ft - 6 in", kInch, 114}, {L"5ft-6in", kInch, 66}, {L"~5 ft ~6 in", kInch, -66},
+    };
+    ExpectReadings(f, rows);
+    double value = 42;
+    EXPECT_EQ(f.Parse(L"-5 ft 6 in", value, kInch), 2) << "a dash is no sign: it may not open the text";
+    EXPECT_EQ(value, 42);
+}
+
 TEST_F(QuantitiesAsTyped, TextsTheEvaluationReadsKeepTheirValues) {
     Reading const rows[] = {
         {L"5'-6\"", kInch, 66}, {L"-5'6\"", kInch, -66}, {L"-0'-6\"", kInch, -6}, {L"5 1/2 in", kInch, 5.5},
@@ -229,6 +244,17 @@ TEST_F(QuantitiesAsTyped, GroupSeparatorInsideAGroupWarnsWithoutChangingTheResul
     EXPECT_EQ(d.warningOffset, -1);
     ASSERT_EQ(units::DiagnoseParse(f, L"1,234,567 m", value, kMeter, d), 0);
     EXPECT_EQ(d.warningOffset, 1);
+    // The separators are the formatter's: with "." between groups, 1.5 m is the slip.
+    units::UnitsFormatter swapped(L"en-US");
+    ASSERT_EQ(swapped.SetNumberDecimalSeparator(L";"), 0);
+    ASSERT_EQ(swapped.SetNumberGroupSeparator(L"."), 0);
+    ASSERT_EQ(swapped.SetNumberDecimalSeparator(L","), 0);
+    ASSERT_EQ(units::DiagnoseParse(swapped, L"1.5 m", value, kMeter, d), 0);
+    EXPECT_EQ(value, 15);
+    EXPECT_EQ(d.warningOffset, 1);
+    ASSERT_EQ(units::DiagnoseParse(swapped, L"1,5 m", value, kMeter, d), 0);
+    EXPECT_EQ(value, 1.5);
+    EXPECT_EQ(d.warningOffset, -1);
     // The warning comes with a failure too.
     EXPECT_EQ(units::DiagnoseParse(formatter, L"1,5 kg", value, kMeter, d), 2);
     EXPECT_EQ(d.warningOffset, 1);
