@@ -11,6 +11,7 @@
 #include <cmath>
 #include <cwchar>
 #include <iterator>
+#include <new>
 
 #include "KxUnitsFormatterImp.h"
 #include "KxUnitsSymbols.h"
@@ -128,7 +129,9 @@ private:
         for (int pos = 0; pos < length;) {
             double number = 0;
             int flags = 0;
-            int n = m_formatter.ParseNumber(m_text + pos, &number, &flags, nullptr);
+            int n = m_formatter.MayStartNumberWith(m_text[pos])
+                        ? m_formatter.ParseNumber(m_text + pos, &number, &flags, nullptr)
+                        : 0;
             if (n > 0) {
                 // The sign becomes a token of its own: whether it is a sign, an operator
                 // or a joining dash depends on what stands around it.
@@ -156,7 +159,12 @@ private:
             IParseSymbol const* symbol = config->FindSymbol(m_text + pos, &matched);
             if (symbol == nullptr) return Fail(pos, Reason::eUnknownWord);
             int const n2 = matched > 0 ? static_cast<int>(matched) : 1;
-            Push({KindOf(symbol), false, pos, n2, symbol, 0.0, 0});
+            TokenKind const kind = KindOf(symbol);
+            if (kind == TokenKind::eSpace && m_count > 0 && m_tokens[m_count - 1].kind == TokenKind::eSpace) {
+                m_tokens[m_count - 1].length += n2;  // a run of spaces separates as one space does
+            } else {
+                Push({kind, false, pos, n2, symbol, 0.0, 0});
+            }
             pos += n2;
         }
         if (m_count == 0) return Fail(0, Reason::eEmptyText);
@@ -166,7 +174,7 @@ private:
         return Fail(0, Reason::eEmptyText);
     }
 
-    void Push(Token const& token) { m_tokens[m_count++] = token; }
+    void Push(Token const& token) { ::new (&m_tokens[m_count++]) Token(token); }
 
     bool Is(int i, TokenKind kind) const { return i >= 0 && i < m_count && m_tokens[i].kind == kind; }
     int NextNonSpace(int i) const {
@@ -265,7 +273,7 @@ private:
     }
 
     void StartQuantity(int first, int sign) {
-        m_quantities[m_quantityCount++] = Quantity{first, first, sign, m_terms, false};
+        ::new (&m_quantities[m_quantityCount++]) Quantity{first, first, sign, m_terms, false};
     }
     Quantity& Current() { return m_quantities[m_quantityCount - 1]; }
     int CurrentOffset() { return m_tokens[Current().first].offset; }
@@ -275,9 +283,9 @@ private:
         enum class State { eTermStart, eNumberPart, eUnitPart };
         State state = State::eTermStart;
         int sign = 1;
-        bool hasLeadingSign = false;      // the term has its leading sign
-        int pending = -1;          // the operator or sign waiting for its term
-        int waiting = -1;          // in a unit expression: the operator waiting for its right side
+        bool hasLeadingSign = false;  // the term has its leading sign
+        int pending = -1;             // the operator or sign waiting for its term
+        int waiting = -1;             // in a unit expression: the operator waiting for its right side
         int depth = 0;
         for (int i = 0; i < m_count; ++i) {
             Token& t = m_tokens[i];
@@ -451,16 +459,30 @@ private:
     bool ResultInDimensions(ParseList const& list, int offset, double& baseValue) {
         auto const* result = ParseCast<ResultSymbol>(list.front().Get());
         if (result == nullptr) return Fail(offset, Reason::eCannotEvaluate);
-        UnitConverter const& converter = result->GetConverter();
+        return InDimensions(result->GetConverter(), 1.0, offset, baseValue);
+    }
+
+    // `value` in the unit of `converter`, in base units of the dimensions asked for.
+    bool InDimensions(UnitConverter const& converter, double value, int offset, double& baseValue) {
         if (!SameDimensions(converter.GetDimTag(), m_dims)) {
             if (m_failure != nullptr) std::copy(std::begin(converter.GetDimTag()), std::end(converter.GetDimTag()),
                                                 std::begin(m_failure->dimensions));
             return Fail(offset, Reason::eWrongQuantity);
         }
         double base = 0;
-        if (converter.ConvertToBase(&base, m_dims, 1.0) != 0) return Fail(offset, Reason::eCannotEvaluate);
+        if (converter.ConvertToBase(&base, m_dims, value) != 0) return Fail(offset, Reason::eCannotEvaluate);
         baseValue = base;
         return true;
+    }
+
+    // The unit of quantity [first, last) when it is a number, spaces and one unit
+    // operand (`5 ft`), the commonest quantity of a run; else null.
+    OperandSymbol const* LoneUnitAfterNumber(int first, int last) const {
+        if (last - first < 2 || !Is(first, TokenKind::eNumber) || !Is(last - 1, TokenKind::eUnit)) return nullptr;
+        for (int i = first + 1; i < last - 1; ++i) {
+            if (!Is(i, TokenKind::eSpace)) return nullptr;
+        }
+        return ParseCast<OperandSymbol>(m_tokens[last - 1].symbol);
     }
 
     // Why the evaluation refused quantity `q`, as near to the cause as can be told.
@@ -510,11 +532,21 @@ private:
         double sum = 0;
         for (int k = 0; k < m_quantityCount; ++k) {
             Quantity const& q = m_quantities[k];
-            ParseList list{ParseList::allocator_type(&m_arena)};
             int first = q.first;
             int last = q.last;
             while (first < last && Is(first, TokenKind::eSpace)) ++first;
             while (last > first && Is(last - 1, TokenKind::eSpace)) --last;
+            double base = 0;
+            if (OperandSymbol const* unit = LoneUnitAfterNumber(first, last)) {
+                // Converted straight, as the evaluation converts a number before a unit,
+                // without building a list for it.
+                if (!InDimensions(unit->GetConverter(), m_tokens[first].number, m_tokens[q.first].offset, base)) {
+                    return false;
+                }
+                sum += q.sign < 0 ? -base : base;
+                continue;
+            }
+            ParseList list{ParseList::allocator_type(&m_arena)};
             for (int i = first; i < last; ++i) {
                 Token const& t = m_tokens[i];
                 if (t.dropped) continue;
@@ -527,7 +559,6 @@ private:
                 }
             }
             if (IParseSymbol::Calculate(list, m_dims) != 0) return FailQuantity(q);
-            double base = 0;
             if (!ResultInDimensions(list, m_tokens[q.first].offset, base)) return false;
             sum += q.sign < 0 ? -base : base;
         }
