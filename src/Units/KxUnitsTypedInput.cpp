@@ -160,6 +160,11 @@ private:
             if (symbol == nullptr) return Fail(pos, Reason::eUnknownWord);
             int const n2 = matched > 0 ? static_cast<int>(matched) : 1;
             TokenKind const kind = KindOf(symbol);
+            m_hasParenthesis = m_hasParenthesis || kind == TokenKind::eLeftParenthesis ||
+                               kind == TokenKind::eRightParenthesis;
+            // Marks and offset units are the units that are no operands.
+            m_hasUnitsBesideOperands = m_hasUnitsBesideOperands ||
+                                       (kind == TokenKind::eUnit && ParseCast<OperandSymbol>(symbol) == nullptr);
             if (kind == TokenKind::eSpace && m_count > 0 && m_tokens[m_count - 1].kind == TokenKind::eSpace) {
                 m_tokens[m_count - 1].length += n2;  // a run of spaces separates as one space does
             } else {
@@ -167,11 +172,11 @@ private:
             }
             pos += n2;
         }
-        if (m_count == 0) return Fail(0, Reason::eEmptyText);
-        for (int i = 0; i < m_count; ++i) {
-            if (m_tokens[i].kind != TokenKind::eSpace) return true;
+        // Spaces run together into one token: an empty text has at most one.
+        if (m_count == 0 || (m_count == 1 && m_tokens[0].kind == TokenKind::eSpace)) {
+            return Fail(0, Reason::eEmptyText);
         }
-        return Fail(0, Reason::eEmptyText);
+        return true;
     }
 
     void Push(Token const& token) { ::new (&m_tokens[m_count++]) Token(token); }
@@ -199,9 +204,7 @@ private:
     // operand of its value, and a leading 1 carries the result. The tokens are read
     // back as the evaluation's own tokenizer gives them, signs on their numbers.
     bool ReadParenthesisedQuantities(double& baseValue) {
-        bool any = false;
-        for (int i = 0; i < m_count; ++i) any = any || m_tokens[i].kind == TokenKind::eLeftParenthesis;
-        if (!any) return false;
+        if (!m_hasParenthesis) return false;
         ParseList list{ParseList::allocator_type(&m_arena)};
         for (int i = 0; i < m_count; ++i) {
             Token const& t = m_tokens[i];
@@ -247,6 +250,7 @@ private:
 
     // Every parenthesis has its partner; else the first one without.
     bool CheckParentheses() {
+        if (!m_hasParenthesis) return true;
         int depth = 0;
         for (int i = 0; i < m_count; ++i) {
             if (m_tokens[i].kind == TokenKind::eLeftParenthesis) ++depth;
@@ -504,7 +508,7 @@ private:
     }
 
     bool Evaluate(double& baseValue) {
-        if (m_quantityCount > 1 || m_sum) {
+        if (m_hasUnitsBesideOperands && (m_quantityCount > 1 || m_sum)) {
             // A temperature with its offset has no sum: 20 °C + 10 °C is not 30 °C.
             for (int k = 0; k < m_quantityCount; ++k) {
                 for (int i = m_quantities[k].first; i < m_quantities[k].last; ++i) {
@@ -515,7 +519,7 @@ private:
             }
         }
         int previousRank = -1;
-        for (int k = 0; k < m_quantityCount; ++k) {
+        for (int k = 0; m_hasUnitsBesideOperands && k < m_quantityCount; ++k) {
             Quantity const& q = m_quantities[k];
             int rank = -1;
             int at = -1;
@@ -576,6 +580,8 @@ private:
     Quantity* m_quantities = nullptr;
     int m_quantityCount = 0;
     bool m_sum = false;  // a plus or minus between terms
+    bool m_hasParenthesis = false;
+    bool m_hasUnitsBesideOperands = false;
     int m_terms = 0;
 };
 
