@@ -85,6 +85,17 @@ BENCHMARK(BM_Parse_Meters);
 void BM_Parse_FeetInches(benchmark::State& state) { ParseLoop(state, L"5'-6 1/2\"", kInch); }
 BENCHMARK(BM_Parse_FeetInches);
 
+// Feet and inches with marks, read by the evaluation alone, and the same length in
+// words, which the evaluation refuses before the run of two quantities reads it.
+void BM_Parse_FeetInchesMarks(benchmark::State& state) { ParseLoop(state, L"5'6\"", kInch); }
+BENCHMARK(BM_Parse_FeetInchesMarks);
+
+void BM_Parse_FeetInchesWords(benchmark::State& state) { ParseLoop(state, L"5 ft 6 in", kInch); }
+BENCHMARK(BM_Parse_FeetInchesWords);
+
+void BM_Parse_Sum(benchmark::State& state) { ParseLoop(state, L"1.5 m + 20 cm", kMeter); }
+BENCHMARK(BM_Parse_Sum);
+
 void BM_Parse_Bearing(benchmark::State& state) { ParseLoop(state, L"N 45\u00B030'15\" E", kDegree); }
 BENCHMARK(BM_Parse_Bearing);
 
@@ -140,5 +151,6 @@ int main(int argc, char** argv) {
     return kxbench::RunWithRatios(argc, argv,
                                   {{"BM_Format_GenericSymbol", "BM_Reference_ToCharsGrouped", 3.0},
                                    {"BM_Format_FeetInchesFraction", "BM_Reference_ToCharsGrouped", 5.0},
-                                   {"BM_Parse_FeetInches", "BM_Reference_FromChars", 25.0}});
+                                   {"BM_Parse_FeetInches", "BM_Reference_FromChars", 25.0},
+                                   {"BM_Parse_FeetInchesWords", "BM_Parse_FeetInchesMarks", 2.0}});
 }

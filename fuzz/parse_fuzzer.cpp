@@ -1,10 +1,16 @@
 // Parse of random text, by unit and by dimensions, after random number settings and
 // custom formatting and parsing strings. A failed parse leaves the output untouched.
+// Parse by unit is also run through DiagnoseParse, which must agree with it and point
+// inside the text; the seeds hold runs and sums (`5 ft 6 in`, `1.5 m + 20 cm`) so that
+// the readings beyond the evaluation are reached.
 //
 // Input: the text up to the first NUL byte, then the choices. With no choices left
 // every pick is its first option (en-US, the reused formatter, inches), so a seed that
 // is just a typed length is parsed as one.
 #include <cstring>
+#include <cwchar>
+
+#include "KxCoreUnitsUI/ParseDiagnostics.h"
 
 #include "FuzzSupport.h"
 
@@ -61,6 +67,29 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* bytes, std::size_t siz
     if (result != 0) {
         KXFUZZ_CHECK(std::memcmp(&value, &kUntouched, sizeof value) == 0, "Parse failed with %d but wrote %g", result,
                      value);
+    }
+
+    if (!byDimensions) {
+        units::ParseDiagnostics diagnostics;
+        double diagnosed = kUntouched;
+        int const again = units::DiagnoseParse(f, text.get(), diagnosed, unit, diagnostics);
+        KXFUZZ_CHECK(again == result, "DiagnoseParse returned %d, Parse %d", again, result);
+        KXFUZZ_CHECK(std::memcmp(&diagnosed, &value, sizeof value) == 0, "DiagnoseParse read %g, Parse %g", diagnosed,
+                     value);
+        int const length = static_cast<int>(std::wcslen(text.get()));
+        if (result == 0) {
+            KXFUZZ_CHECK(diagnostics.offset == -1 && diagnostics.reason == units::ParseFailureReason::eNone,
+                         "a reading with offset %d, reason %d", diagnostics.offset,
+                         static_cast<int>(diagnostics.reason));
+        } else {
+            KXFUZZ_CHECK(diagnostics.reason != units::ParseFailureReason::eNone, "a failure without a reason");
+            KXFUZZ_CHECK(length == 0 ? diagnostics.offset == 0 : diagnostics.offset >= 0 && diagnostics.offset < length,
+                         "offset %d outside a text of %d characters", diagnostics.offset, length);
+        }
+        KXFUZZ_CHECK(diagnostics.warningOffset >= -1 && diagnostics.warningOffset < length,
+                     "warning offset %d outside a text of %d characters", diagnostics.warningOffset, length);
+        KXFUZZ_CHECK((diagnostics.warnings != 0) == (diagnostics.warningOffset >= 0), "warning %d at %d",
+                     diagnostics.warnings, diagnostics.warningOffset);
     }
 
     RemoveCustomStrings(f, custom);

