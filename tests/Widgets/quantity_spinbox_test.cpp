@@ -118,8 +118,17 @@ TEST_F(QuantitySpinBoxTest, TypedTextSetsTheValueAndIsRewrittenInTheDisplaySymbo
 
 TEST_F(QuantitySpinBoxTest, TextThatDoesNotReadKeepsTheValueAndSaysWhy) {
     QColor const normalBase = Editor()->palette().color(QPalette::Base);
-    char const* const texts[] = {"5 fx", "(1.7", "1.7 m)", "2 kg", "", "1 1/"};
-    for (char const* typed : texts) {
+    // Each text with where and why it stopped, as the field's tool tip ends.
+    struct {
+        char const* typed;
+        char const* reason;
+    } const rows[] = {
+        {"5 fx", "unknown word at \"fx\""},    {"(1.7", "unmatched parenthesis at \"(1.7\""},
+        {"1.7 m)", "unmatched parenthesis at \")\""}, {"2 kg", "wrong quantity at \"2 kg\""},
+        {"", "no value: type a length"},        {"1 1/", "cannot read this as a quantity at \"1 1/\""},
+    };
+    for (auto const& row : rows) {
+        char const* typed = row.typed;
         SCOPED_TRACE(typed);
         spin->setValue(2.5);
         QSignalSpy changed(spin, &units::QuantitySpinBox::valueChanged);
@@ -129,6 +138,7 @@ TEST_F(QuantitySpinBoxTest, TextThatDoesNotReadKeepsTheValueAndSaysWhy) {
         EXPECT_EQ(Text(), QString::fromUtf8(typed)) << "the person's text stays to be corrected";
         EXPECT_FALSE(spin->errorText().isEmpty());
         EXPECT_EQ(spin->toolTip(), spin->errorText());
+        EXPECT_TRUE(spin->errorText().endsWith(QString::fromUtf8(row.reason))) << spin->errorText().toStdString();
         EXPECT_NE(Editor()->palette().color(QPalette::Base), normalBase);
         // Leaving the field again changes nothing either.
         QTest::keyClick(spin, Qt::Key_Tab);
