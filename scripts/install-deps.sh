@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs every Debian package the build, the tests, the benchmarks (with the peers they
-# are compared against: ICU, UDUNITS-2) and the fuzz targets (clang with libFuzzer) need.
+# are compared against: ICU, UDUNITS-2), the fuzz targets (clang with libFuzzer) and the
+# translation generator's check (CLDR locale data) need.
 # Idempotent: asks apt only for what is missing, and refreshes the package lists only then.
 set -euo pipefail
 
@@ -10,6 +11,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   libicu-dev libudunits2-dev
   clang libclang-rt-14-dev
+  unicode-cldr-core
 )
 
 missing=()

@@ -1,0 +1,404 @@
+#!/usr/bin/env python3
+"""Writes unit names of a locale from Unicode CLDR into its translation sources.
+
+The translation sources (translations/<locale>/*.ts) stay the committed, reviewed
+texts; this tool only fills and refreshes the unit names that CLDR knows, and
+reports how well a locale agrees with CLDR.
+
+Input:
+- tools/cldr_units.tsv, reviewed by hand: which CLDR unit (or composition of CLDR
+  units, prefixes and compound patterns) names each catalogue unit, where a locale
+  deliberately differs from CLDR and why, and per locale the CLDR files to read and
+  the symbol practice of the language;
+- CLDR's locale data (Debian package unicode-cldr-core): common/main/<lang>.xml;
+- the catalogue (src/KxCoreUnits/data) for the English source names.
+
+A name CLDR does not carry as a unit of its own is composed the way CLDR composes
+it: an SI or binary prefix pattern ("kilo{0}"), a power pattern ("square {0}",
+"cubic {0}"), the "per" pattern ("{0} per {1}") or the "times" pattern ("{0}-{1}"),
+each filled with the singular name of its part.
+
+Generated messages carry a translator comment "CLDR: <text>" holding the text the
+tool wrote (lrelease ignores translator comments). On a refresh a message is
+rewritten only while its translation still equals that text; a message without the
+comment, or edited since, is a hand-made translation and is kept. With --adopt
+hand-made names that differ from CLDR are replaced too, unless the table lists the
+difference as deliberate.
+
+Commands:
+    gen_translations.py refresh LOCALE [...] [--adopt]
+    gen_translations.py check LOCALE [...]
+    gen_translations.py names LOCALE
+
+check prints, per locale, the share of mapped units whose name equals CLDR's
+(after normalisation: case folded, every kind of space and the hyphen read as one
+space, typographic apostrophes as "'") and the share of all unit names that are
+translated (differ from the English name, or equal CLDR's). It fails (exit 1) when
+a locale other than en-US agrees for less than 95 %, translates less than 90 %, or
+differs from CLDR where the table lists no reason. Without CLDR data it exits 77,
+which the test driver reports as skipped.
+"""
+import argparse
+import collections
+import os
+import re
+import sys
+import xml.etree.ElementTree as ET
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+ROOT = os.path.dirname(HERE)
+DEFAULT_CLDR = "/usr/share/unicode/cldr/common/main"
+DEFAULT_TABLE = os.path.join(HERE, "cldr_units.tsv")
+NAMES_MODULE = "KxCoreUnitsUI"
+UNIT_CONTEXT = "UnitType"
+MARK = "CLDR: "
+SKIP = 77
+MIN_AGREEMENT = 0.95
+MIN_TRANSLATED = 0.90
+# en-US names are the source texts every other locale translates.
+SOURCE_LOCALE = "en-US"
+
+
+# ---------------------------------------------------------------- the table
+
+Table = collections.namedtuple("Table", "units differences locales")
+LocaleRow = collections.namedtuple("LocaleRow", "files symbols")
+
+
+def read_table(path):
+    units, differences, locales = {}, {}, {}
+    section = None
+    with open(path, encoding="utf-8") as f:
+        for number, line in enumerate(f, 1):
+            line = line.rstrip("\n")
+            if not line.strip() or line.startswith("#"):
+                continue
+            if line.startswith("[") and line.endswith("]"):
+                section = line[1:-1]
+                continue
+            cells = line.split("\t")
+            where = f"{path}:{number}"
+            if section == "units" and len(cells) == 2:
+                if cells[0] in units:
+                    raise ValueError(f"{where}: {cells[0]} mapped twice")
+                units[cells[0]] = cells[1]
+            elif section == "differences" and len(cells) == 3:
+                differences[(cells[0], cells[1])] = cells[2]
+            elif section == "locales" and len(cells) == 3:
+                locales[cells[0]] = LocaleRow(cells[1].split(), cells[2])
+            else:
+                raise ValueError(f"{where}: not a row of section [{section}]")
+    return Table(units, differences, locales)
+
+
+def read_catalogue(data_dir):
+    """Returns [(global name, English name)] in catalogue order."""
+    units = []
+    with open(os.path.join(data_dir, "units.tsv"), encoding="utf-8") as f:
+        for line in f:
+            if line.startswith(("#", "=")) or not line.strip():
+                continue
+            cells = line.rstrip("\n").split("\t")
+            units.append((cells[1], cells[4]))
+    return units
+
+
+# ---------------------------------------------------------------- CLDR
+
+class Cldr:
+    """Long unit names and compound patterns of one locale, with CLDR inheritance
+    flattened: the first file of the chain that has an item wins."""
+
+    def __init__(self, main_dir, files):
+        self.singular, self.plural, self.forms, self.patterns = {}, {}, {}, {}
+        self.gender = {}   # unit type -> grammatical gender, where the language has them
+        for name in files:
+            path = os.path.join(main_dir, name + ".xml")
+            if not os.path.exists(path):
+                raise FileNotFoundError(path)
+            for length in ET.parse(path).getroot().iter("unitLength"):
+                if length.get("type") == "long":
+                    self._read(length)
+
+    @staticmethod
+    def _plain(element):
+        return not element.get("case") and not element.get("gender")
+
+    def _read(self, length):
+        for compound in length.iter("compoundUnit"):
+            kind = compound.get("type")
+            for tag in ("unitPrefixPattern", "compoundUnitPattern", "compoundUnitPattern1"):
+                for gender in [None] + sorted({e.get("gender") for e in compound.findall(tag) if e.get("gender")}):
+                    candidates = [e for e in compound.findall(tag) if not e.get("case") and e.get("gender") == gender]
+                    # The pattern for "one" composes a singular name; a bare pattern serves all counts.
+                    chosen = ([e for e in candidates if e.get("count") == "one"]
+                              or [e for e in candidates if not e.get("count")] or candidates)
+                    key = kind if gender is None else (kind, gender)
+                    if chosen and key not in self.patterns:
+                        self.patterns[key] = chosen[0].text
+        for unit in length.iter("unit"):
+            kind = unit.get("type")
+            patterns = {p.get("count"): p.text for p in unit.findall("unitPattern") if self._plain(p)}
+            bare = {count: strip_placeholder(text) for count, text in patterns.items()}
+            if bare and kind not in self.singular:
+                self.singular[kind] = bare.get("one") or bare.get("other") or next(iter(bare.values()))
+                self.forms[kind] = sorted(set(bare.values()))
+            if unit.findtext("gender") and kind not in self.gender:
+                self.gender[kind] = unit.findtext("gender")
+            display = unit.findtext("displayName")
+            if display and kind not in self.plural:
+                self.plural[kind] = display.strip()
+
+    def compose(self, expression):
+        """Singular name of a table expression, or None when CLDR lacks a part."""
+        if " per " in expression:
+            numerator, denominator = expression.split(" per ", 1)
+            return self._join("per", self.compose(numerator), self.compose(denominator))
+        if " times " in expression:
+            first, second = expression.split(" times ", 1)
+            return self._join("times", self.compose(first), self.compose(second))
+        words = expression.split()
+        name = self.singular.get(words[-1])
+        # A prefix keeps the gender of its unit, and a power agrees with it
+        # (French "mètre carré", "unité astronomique carrée").
+        gender = self.gender.get(words[-1])
+        for word in reversed(words[:-1]):
+            if name is None:
+                return None
+            kind = {"square": "power2", "cubic": "power3"}.get(word, word)
+            pattern = self.patterns.get((kind, gender)) or self.patterns.get(kind)
+            if pattern is None:
+                return None
+            name = apply_pattern(pattern, name)
+        return name
+
+    def _join(self, kind, first, second):
+        pattern = self.patterns.get(kind)
+        if first is None or second is None or pattern is None:
+            return None
+        return pattern.replace("{0}", first).replace("{1}", second)
+
+    def names(self, expression):
+        """Every CLDR label a shipped name may equal: the singular, and for a unit
+        CLDR carries itself, its plural display name and its other plural forms."""
+        found = [self.compose(expression)]
+        if re.fullmatch(r"[a-z]+(-[a-z0-9]+)+", expression):
+            found += [self.plural.get(expression)] + self.forms.get(expression, [])
+        return [n for n in found if n]
+
+
+def strip_placeholder(text):
+    return re.sub(r"\s+", " ", text.replace("{0}", "").replace("\u00A0", " ").replace("\u202F", " ")).strip()
+
+
+def apply_pattern(pattern, name):
+    """Fills a prefix or power pattern. Where the pattern glues its text straight to
+    the name ("Kilo{0}", "Quadrat{0}"), the name joins one word and loses its capital:
+    German "Kilo" + "Meter" is "Kilometer"."""
+    before = pattern.split("{0}", 1)[0]
+    if before and before[-1].isalpha() and name[:1].isupper() and name[1:2].islower():
+        name = name[0].lower() + name[1:]
+    return pattern.replace("{0}", name).strip()
+
+
+def normalise(text):
+    text = text.casefold().replace("\u2019", "'").replace("\u02BC", "'")
+    text = re.sub(r"[\s\u00A0\u202F\-\u2010\u2011]+", " ", text)
+    return text.strip()
+
+
+# ---------------------------------------------------------------- .ts files
+
+Message = collections.namedtuple("Message", "source translation kind note")
+
+
+class TsFile:
+    """A Qt translation source, read and written in the layout of this repository
+    (contexts and messages in their order, four-space indent)."""
+
+    def __init__(self, path, language):
+        self.path, self.language = path, language
+        self.contexts = collections.OrderedDict()   # name -> OrderedDict(source -> Message)
+        if os.path.exists(path):
+            root = ET.parse(path).getroot()
+            self.language = root.get("language", language)
+            for context in root.iter("context"):
+                messages = self.contexts.setdefault(context.findtext("name", ""), collections.OrderedDict())
+                for message in context.iter("message"):
+                    translation = message.find("translation")
+                    messages[message.findtext("source", "")] = Message(
+                        message.findtext("source", ""),
+                        (translation.text or "") if translation is not None else "",
+                        translation.get("type") if translation is not None else None,
+                        message.findtext("translatorcomment"))
+
+    def get(self, context, source):
+        return self.contexts.get(context, {}).get(source)
+
+    def put(self, context, message):
+        self.contexts.setdefault(context, collections.OrderedDict())[message.source] = message
+
+    def render(self):
+        out = ['<?xml version="1.0" encoding="utf-8"?>', "<!DOCTYPE TS>",
+               f'<TS version="2.1" language="{self.language}">']
+        for name, messages in self.contexts.items():
+            out += ["<context>", f"    <name>{escape(name)}</name>"]
+            for m in messages.values():
+                out.append("    <message>")
+                out.append(f"        <source>{escape(m.source)}</source>")
+                if m.note is not None:
+                    out.append(f"        <translatorcomment>{escape(m.note)}</translatorcomment>")
+                kind = f' type="{m.kind}"' if m.kind else ""
+                out.append(f"        <translation{kind}>{escape(m.translation)}</translation>")
+                out.append("    </message>")
+            out.append("</context>")
+        out.append("</TS>")
+        return "\n".join(out) + "\n"
+
+    def save(self):
+        os.makedirs(os.path.dirname(self.path), exist_ok=True)
+        with open(self.path, "w", encoding="utf-8", newline="\n") as f:
+            f.write(self.render())
+
+
+def escape(text):
+    return (text.replace("&", "&amp;").replace("<", "&lt;").replace(">", "&gt;")
+            .replace("'", "&apos;").replace('"', "&quot;"))
+
+
+# ---------------------------------------------------------------- commands
+
+def open_cldr(args, table, locale):
+    row = table.locales.get(locale)
+    if row is None:
+        raise SystemExit(f"{locale}: no row in the [locales] section of the table")
+    return Cldr(args.cldr, row.files)
+
+
+def refresh(args, table, catalogue, locale):
+    """Fills the unit names of one locale; returns counts of what happened."""
+    cldr = open_cldr(args, table, locale)
+    ts = TsFile(os.path.join(args.translations, locale, NAMES_MODULE + ".ts"), locale.replace("-", "_"))
+    counts = collections.Counter()
+    for global_name, english in catalogue:
+        old = ts.get(UNIT_CONTEXT, english)
+        expression = table.units.get(global_name)
+        generated = cldr.compose(expression) if expression else None
+        if generated is None:
+            if old is None:
+                ts.put(UNIT_CONTEXT, Message(english, "", "unfinished", None))
+                counts["left to translate"] += 1
+            continue
+        note = MARK + generated
+        hand_made = old is not None and old.translation and (old.note is None or old.note != MARK + old.translation)
+        deliberate = (locale, global_name) in table.differences
+        if old is None or not old.translation:
+            counts["added"] += 1
+        elif hand_made and (not args.adopt or deliberate):
+            if old.note is not None:  # edited since it was generated: hand-made from now on
+                ts.put(UNIT_CONTEXT, old._replace(note=None))
+            counts["kept (hand-made)"] += 1
+            continue
+        elif old.translation == generated:
+            counts["unchanged"] += 1
+        else:
+            counts["replaced" if hand_made else "refreshed"] += 1
+        ts.put(UNIT_CONTEXT, Message(english, generated, None, note))
+    ts.save()
+    return counts
+
+
+Agreement = collections.namedtuple("Agreement", "mapped agree translated total unlisted listed")
+
+
+def agreement(args, table, catalogue, locale):
+    cldr = open_cldr(args, table, locale)
+    ts = TsFile(os.path.join(args.translations, locale, NAMES_MODULE + ".ts"), locale)
+    mapped = agree = translated = 0
+    unlisted, listed = [], []
+    for global_name, english in catalogue:
+        message = ts.get(UNIT_CONTEXT, english)
+        shipped = message.translation if message is not None and message.kind is None and message.translation else english
+        expression = table.units.get(global_name)
+        labels = {normalise(n) for n in cldr.names(expression)} if expression else set()
+        same_as_cldr = normalise(shipped) in labels
+        translated += same_as_cldr or normalise(shipped) != normalise(english)
+        if not labels:
+            continue
+        mapped += 1
+        if same_as_cldr:
+            agree += 1
+            continue
+        line = f"{global_name}: shipped \"{shipped}\", CLDR \"{cldr.compose(expression)}\""
+        if (locale, global_name) in table.differences:
+            listed.append(line + f" ({table.differences[(locale, global_name)]})")
+        else:
+            unlisted.append(line)
+    return Agreement(mapped, agree, translated, len(catalogue), unlisted, listed)
+
+
+def check(args, table, catalogue, locales):
+    failed = False
+    for locale in locales:
+        a = agreement(args, table, catalogue, locale)
+        share, translated = a.agree / max(a.mapped, 1), a.translated / a.total
+        english = locale.startswith("en-")
+        print(f"{locale}: {a.agree} of {a.mapped} mapped units agree with CLDR ({share:.1%}), "
+              f"{a.translated} of {a.total} unit names translated ({translated:.1%}), "
+              f"{len(a.listed)} deliberate differences")
+        if locale == SOURCE_LOCALE:
+            continue
+        problems = []
+        if share < MIN_AGREEMENT:
+            problems.append(f"agreement below {MIN_AGREEMENT:.0%}")
+        if not english and translated < MIN_TRANSLATED:
+            problems.append(f"translated share below {MIN_TRANSLATED:.0%}")
+        if a.unlisted:
+            problems.append(f"{len(a.unlisted)} differences from CLDR without a reason in the table")
+        for line in a.unlisted:
+            print("  differs: " + line)
+        for problem in problems:
+            print(f"  FAILED: {problem}")
+        failed |= bool(problems)
+    return 1 if failed else 0
+
+
+def main(argv=None):
+    parser = argparse.ArgumentParser(description=__doc__.split("\n\n")[0])
+    parser.add_argument("command", choices=("refresh", "check", "names"))
+    parser.add_argument("locales", nargs="+")
+    parser.add_argument("--adopt", action="store_true", help="refresh: replace hand-made names that differ from CLDR")
+    parser.add_argument("--cldr", default=DEFAULT_CLDR, help="CLDR common/main folder")
+    parser.add_argument("--translations", default=os.path.join(ROOT, "translations"))
+    parser.add_argument("--data", default=os.path.join(ROOT, "src", "KxCoreUnits", "data"))
+    parser.add_argument("--table", default=DEFAULT_TABLE)
+    args = parser.parse_args(argv)
+    if not os.path.isdir(args.cldr):
+        print(f"CLDR locale data not found in {args.cldr} (Debian package unicode-cldr-core): "
+              "nothing compared or generated")
+        return SKIP
+    table = read_table(args.table)
+    catalogue = read_catalogue(args.data)
+    unknown = sorted(set(table.units) - {g for g, _ in catalogue})
+    if unknown:
+        print(f"{args.table}: not in the catalogue: {', '.join(unknown)}")
+        return 1
+    if args.command == "check":
+        return check(args, table, catalogue, args.locales)
+    if args.command == "refresh" and SOURCE_LOCALE in args.locales:
+        print(f"{SOURCE_LOCALE} holds the source texts; it is written by hand only")
+        return 2
+    for locale in args.locales:
+        if args.command == "refresh":
+            counts = refresh(args, table, catalogue, locale)
+            print(f"{locale}: " + ", ".join(f"{n} {what}" for what, n in sorted(counts.items())))
+        else:
+            cldr = open_cldr(args, table, locale)
+            for global_name, english in catalogue:
+                expression = table.units.get(global_name)
+                print(f"{global_name}\t{english}\t{cldr.compose(expression) if expression else ''}")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
