@@ -97,7 +97,7 @@ TEST(KxunitsCommandLine, MistakesExitWithTwoAndSayWhatWasWrong) {
         {"separator equal to the locale's other one", {"format", "1", "Meter", "--decimal-separator", ","}, 2,
          "must differ"},
         {"locale without translations", {"units", "--locale", "ja-JP"}, 2,
-         "no translations for locale \"ja-JP\"; shipped locales: de-DE, en-US, fr-FR"},
+         "no translations for locale \"ja-JP\"; shipped locales: de-DE, en-GB, en-US, fr-FR"},
         {"locales takes no argument", {"locales", "extra"}, 2, "too many arguments"},
         {"repl with unknown unit", {"repl", "Nope"}, 2, "repl: unknown unit, symbol or group \"Nope\""},
     };
@@ -129,14 +129,14 @@ TEST(KxunitsCommandLine, EveryCommandHasHelpThatWinsOverOtherMistakes) {
 // Listings.
 
 TEST(KxunitsListings, LocalesListsTheShippedOnesAndMarksTheUsersOne) {
-    for (auto [lang, marked] : {std::pair{"C", 1}, {"de_DE.UTF-8", 0}, {"fr_FR", 2}, {"ja_JP.UTF-8", 1}}) {
+    for (auto [lang, marked] : {std::pair{"C", 2}, {"de_DE.UTF-8", 0}, {"en_GB.UTF-8", 1}, {"fr_FR", 3}, {"ja_JP.UTF-8", 2}}) {
         SCOPED_TRACE(lang);
         ToolRun const run = RunTool({"locales"}, {}, QString::fromLatin1(lang));
         QStringList const lines = Lines(run.out);
-        ASSERT_EQ(lines.size(), 4) << Describe({"locales"}, run);
-        QString const rows[] = {"de-DE  0x0407  Deutsch (Deutschland)", "en-US  0x0409  American English",
-                                QString::fromUtf8("fr-FR  0x040c  français (France)")};
-        for (int i = 0; i < 3; ++i) EXPECT_TRUE(lines[i].startsWith((i == marked ? "* " : "  ") + rows[i])) << lines[i].toStdString();
+        ASSERT_EQ(lines.size(), 5) << Describe({"locales"}, run);
+        QString const rows[] = {"de-DE  0x0407  Deutsch (Deutschland)", "en-GB  0x0809  British English",
+                                "en-US  0x0409  American English", QString::fromUtf8("fr-FR  0x040c  français (France)")};
+        for (int i = 0; i < 4; ++i) EXPECT_TRUE(lines[i].startsWith((i == marked ? "* " : "  ") + rows[i])) << lines[i].toStdString();
     }
 }
 
