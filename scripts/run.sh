@@ -44,6 +44,8 @@ show parse '10 kg/m³' KilogramPerCubicMeter
 show convert '68 °F' DegreeCelsius --symbol degreeC --locale de-DE
 show convert "5' 6\"" Meter --symbol m --locale fr-FR
 show format 1234.5 Meter --symbol m --locale fr-FR
+show format 1234.5 Kilometer --locale en-GB
+show convert '2 imperial gallons' Liter --symbol L --locale en-GB
 show convert "45°30'15\"" Degree --symbol degree_OneChar --precision 4
 show parse '5 fx' Foot
 
