@@ -112,6 +112,7 @@ class Cldr:
     def __init__(self, main_dir, files):
         self.singular, self.plural, self.forms, self.patterns = {}, {}, {}, {}
         self.gender = {}   # unit type -> grammatical gender, where the language has them
+        self.per_unit = {}  # unit type -> CLDR's own "per" form ("{0} all'ora", "{0}/メートル")
         for name in files:
             path = os.path.join(main_dir, name + ".xml")
             if not os.path.exists(path):
@@ -143,6 +144,8 @@ class Cldr:
             if bare and kind not in self.singular:
                 self.singular[kind] = bare.get("one") or bare.get("other") or next(iter(bare.values()))
                 self.forms[kind] = sorted(set(bare.values()))
+            if unit.findtext("perUnitPattern") and kind not in self.per_unit:
+                self.per_unit[kind] = unit.findtext("perUnitPattern")
             if unit.findtext("gender") and kind not in self.gender:
                 self.gender[kind] = unit.findtext("gender")
             display = unit.findtext("displayName")
@@ -153,6 +156,10 @@ class Cldr:
         """Singular name of a table expression, or None when CLDR lacks a part."""
         if " per " in expression:
             numerator, denominator = expression.split(" per ", 1)
+            # A unit's own per form wins over the generic pattern, as CLDR specifies:
+            # it carries elisions and cases ("metro cubo all'ora", not "al ora").
+            if denominator in self.per_unit and self.compose(numerator) is not None:
+                return self.per_unit[denominator].replace("{0}", self.compose(numerator))
             return self._join("per", self.compose(numerator), self.compose(denominator))
         if " times " in expression:
             first, second = expression.split(" times ", 1)

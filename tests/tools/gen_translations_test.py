@@ -24,6 +24,8 @@ XX = """<ldml><units>
     <unitPattern count="one">{0} Meter</unitPattern>
     <unitPattern count="one" case="dative">{0} Metern</unitPattern>
     <unitPattern count="other">{0}\u00a0Meter</unitPattern></unit>
+  <unit type="duration-hour"><displayName>ore</displayName><unitPattern count="one">{0} ora</unitPattern>
+    <perUnitPattern>{0} all’ora</perUnitPattern></unit>
   <unit type="length-fathom"><gender>feminine</gender><displayName>Brassen</displayName>
     <unitPattern count="one">{0} Brasse</unitPattern><unitPattern count="other">{0} Brassen</unitPattern></unit>
 </unitLength>
@@ -113,6 +115,8 @@ class Composition(Fixture):
             ("square length-fathom", "Brasse carrée"),   # power agrees with a feminine unit
             ("square length-meter", "Meter carré"),
             ("length-meter per duration-second", "Meter pro Sekunde"),  # per pattern from base
+            ("length-meter per duration-hour", "Meter all’ora"),  # the unit's own per form wins
+            ("10p3 length-meter per duration-hour", "Kilometer all’ora"),
             ("length-mile", None),                       # CLDR lacks the unit
             ("10p6 length-meter", None),                 # ... or the prefix
         ]
