@@ -98,7 +98,7 @@ TEST(KxunitsCommandLine, MistakesExitWithTwoAndSayWhatWasWrong) {
         {"separator equal to the locale's other one", {"format", "1", "Meter", "--decimal-separator", ","}, 2,
          "must differ"},
         {"locale without translations", {"units", "--locale", "ja-JP"}, 2,
-         "no translations for locale \"ja-JP\"; shipped locales: de-DE, en-GB, en-US, es-ES, fr-FR"},
+         "no translations for locale \"ja-JP\"; shipped locales: "},
         {"locales takes no argument", {"locales", "extra"}, 2, "too many arguments"},
         {"repl with unknown unit", {"repl", "Nope"}, 2, "repl: unknown unit, symbol or group \"Nope\""},
     };
