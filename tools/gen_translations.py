@@ -107,12 +107,22 @@ def read_catalogue(data_dir):
 
 class Cldr:
     """Long unit names and compound patterns of one locale, with CLDR inheritance
-    flattened: the first file of the chain that has an item wins."""
+    flattened: the first file of the chain that has an item wins.
+
+    Names are composed as CLDR specifies (supplemental grammaticalFeatures.xml): each
+    part of a compound takes the grammatical case its structure asks for (Polish
+    "funt na stopę sześcienną": the denominator of "per" is accusative), a power
+    agrees with the gender of its unit, and a compound takes its gender from the
+    part the language's rules name."""
+
+    NOMINATIVE = "nominative"
 
     def __init__(self, main_dir, files):
-        self.singular, self.plural, self.forms, self.patterns = {}, {}, {}, {}
-        self.gender = {}   # unit type -> grammatical gender, where the language has them
-        self.per_unit = {}  # unit type -> CLDR's own "per" form ("{0} all'ora", "{0}/メートル")
+        self.singular, self.plural, self.forms = {}, {}, {}
+        self.patterns = {}   # (kind, gender or None, case) -> pattern, for count "one" or all counts
+        self.cases = {}      # (unit type, case) -> singular in that case
+        self.gender = {}     # unit type -> grammatical gender, where the language has them
+        self.per_unit = {}   # unit type -> CLDR's own "per" form ("{0} all'ora", "{0}/メートル")
         for name in files:
             path = os.path.join(main_dir, name + ".xml")
             if not os.path.exists(path):
@@ -120,30 +130,28 @@ class Cldr:
             for length in ET.parse(path).getroot().iter("unitLength"):
                 if length.get("type") == "long":
                     self._read(length)
-
-    @staticmethod
-    def _plain(element):
-        return not element.get("case") and not element.get("gender")
+        self.rules = read_derivations(main_dir, files[0].split("_")[0])
 
     def _read(self, length):
         for compound in length.iter("compoundUnit"):
             kind = compound.get("type")
             for tag in ("unitPrefixPattern", "compoundUnitPattern", "compoundUnitPattern1"):
-                for gender in [None] + sorted({e.get("gender") for e in compound.findall(tag) if e.get("gender")}):
-                    candidates = [e for e in compound.findall(tag) if not e.get("case") and e.get("gender") == gender]
-                    # The pattern for "one" composes a singular name; a bare pattern serves all counts.
-                    chosen = ([e for e in candidates if e.get("count") == "one"]
-                              or [e for e in candidates if not e.get("count")] or candidates)
-                    key = kind if gender is None else (kind, gender)
-                    if chosen and key not in self.patterns:
-                        self.patterns[key] = chosen[0].text
+                # The pattern for "one" composes a singular name; a bare pattern serves all counts.
+                for e in sorted(compound.findall(tag), key=lambda e: e.get("count") != "one"):
+                    if e.get("count") not in (None, "one"):
+                        continue
+                    key = (kind, e.get("gender"), e.get("case") or self.NOMINATIVE)
+                    self.patterns.setdefault(key, e.text)
         for unit in length.iter("unit"):
             kind = unit.get("type")
-            patterns = {p.get("count"): p.text for p in unit.findall("unitPattern") if self._plain(p)}
-            bare = {count: strip_placeholder(text) for count, text in patterns.items()}
+            patterns = [p for p in unit.findall("unitPattern") if not p.get("gender")]
+            bare = {p.get("count"): strip_placeholder(p.text) for p in patterns if not p.get("case")}
             if bare and kind not in self.singular:
                 self.singular[kind] = bare.get("one") or bare.get("other") or next(iter(bare.values()))
                 self.forms[kind] = sorted(set(bare.values()))
+            for p in patterns:
+                if p.get("case") and p.get("count") in ("one", None if "one" not in bare else "one"):
+                    self.cases.setdefault((kind, p.get("case")), strip_placeholder(p.text))
             if unit.findtext("perUnitPattern") and kind not in self.per_unit:
                 self.per_unit[kind] = unit.findtext("perUnitPattern")
             if unit.findtext("gender") and kind not in self.gender:
@@ -152,38 +160,57 @@ class Cldr:
             if display and kind not in self.plural:
                 self.plural[kind] = display.strip()
 
-    def compose(self, expression):
+    def compose(self, expression, case=NOMINATIVE):
         """Singular name of a table expression, or None when CLDR lacks a part."""
-        if " per " in expression:
-            numerator, denominator = expression.split(" per ", 1)
+        composed = self._compose(expression, case)
+        return composed[0] if composed else None
+
+    def _part_case(self, structure, index, case):
+        wanted = self.rules.get(("case", structure, index), "compound")
+        return case if wanted == "compound" else wanted
+
+    def _compose(self, expression, case):
+        """Returns (name, gender) or None."""
+        for structure, word in (("per", " per "), ("times", " times ")):
+            if word not in expression:
+                continue
+            first_expr, second_expr = expression.split(word, 1)
+            first = self._compose(first_expr, self._part_case(structure, 0, case))
+            second_case = self._part_case(structure, 1, case)
+            second = self._compose(second_expr, second_case)
+            if first is None or second is None:
+                return None
+            gender = (first, second)[int(self.rules.get(("gender", structure), "0") == "1")][1]
             # A unit's own per form wins over the generic pattern, as CLDR specifies:
             # it carries elisions and cases ("metro cubo all'ora", not "al ora").
-            if denominator in self.per_unit and self.compose(numerator) is not None:
-                return self.per_unit[denominator].replace("{0}", self.compose(numerator))
-            return self._join("per", self.compose(numerator), self.compose(denominator))
-        if " times " in expression:
-            first, second = expression.split(" times ", 1)
-            return self._join("times", self.compose(first), self.compose(second))
+            if structure == "per" and second_expr in self.per_unit and case == self.NOMINATIVE:
+                return self.per_unit[second_expr].replace("{0}", first[0]), gender
+            pattern = self._pattern(structure, None, case)
+            if pattern is None:
+                return None
+            return pattern.replace("{0}", first[0]).replace("{1}", second[0]), gender
         words = expression.split()
-        name = self.singular.get(words[-1])
+        base = words[-1]
+        name = self.cases.get((base, case)) if case != self.NOMINATIVE else None
+        name = name or self.singular.get(base)
         # A prefix keeps the gender of its unit, and a power agrees with it
         # (French "mètre carré", "unité astronomique carrée").
-        gender = self.gender.get(words[-1])
+        gender = self.gender.get(base)
         for word in reversed(words[:-1]):
             if name is None:
                 return None
             kind = {"square": "power2", "cubic": "power3"}.get(word, word)
-            pattern = self.patterns.get((kind, gender)) or self.patterns.get(kind)
+            pattern = self._pattern(kind, gender, case)
             if pattern is None:
                 return None
             name = apply_pattern(pattern, name)
-        return name
+        return (name, gender) if name is not None else None
 
-    def _join(self, kind, first, second):
-        pattern = self.patterns.get(kind)
-        if first is None or second is None or pattern is None:
-            return None
-        return pattern.replace("{0}", first).replace("{1}", second)
+    def _pattern(self, kind, gender, case):
+        for key in ((kind, gender, case), (kind, None, case), (kind, gender, self.NOMINATIVE), (kind, None, self.NOMINATIVE)):
+            if key in self.patterns:
+                return self.patterns[key]
+        return None
 
     def names(self, expression):
         """Every CLDR label a shipped name may equal: the singular, and for a unit
@@ -192,6 +219,31 @@ class Cldr:
         if re.fullmatch(r"[a-z]+(-[a-z0-9]+)+", expression):
             found += [self.plural.get(expression)] + self.forms.get(expression, [])
         return [n for n in found if n]
+
+
+def read_derivations(main_dir, language):
+    """CLDR's rules for compounds: {("case", structure, 0 or 1): case or "compound",
+    ("gender", structure): "0" or "1"}, the language's own over root's."""
+    path = os.path.join(os.path.dirname(main_dir.rstrip("/")), "supplemental", "grammaticalFeatures.xml")
+    rules = {}
+    if not os.path.exists(path):
+        return rules
+    blocks = {}
+    for block in ET.parse(path).getroot().iter("grammaticalDerivations"):
+        for locale in block.get("locales", "").split():
+            blocks[locale] = block
+    for locale in ("root", language):
+        block = blocks.get(locale)
+        if block is None:
+            continue
+        for e in block.iter("deriveComponent"):
+            if e.get("feature") == "case":
+                rules[("case", e.get("structure"), 0)] = e.get("value0")
+                rules[("case", e.get("structure"), 1)] = e.get("value1")
+        for e in block.iter("deriveCompound"):
+            if e.get("feature") == "gender":
+                rules[("gender", e.get("structure"))] = e.get("value")
+    return rules
 
 
 def strip_placeholder(text):

@@ -19,6 +19,7 @@ XX = """<ldml><units>
     <compoundUnitPattern1 count="one">{0} carré</compoundUnitPattern1>
     <compoundUnitPattern1 count="one" gender="feminine">{0} carrée</compoundUnitPattern1>
     <compoundUnitPattern1 count="other">{0} carrés</compoundUnitPattern1>
+    <compoundUnitPattern1 count="one" gender="feminine" case="accusative">{0} carrą</compoundUnitPattern1>
   </compoundUnit>
   <unit type="length-meter"><gender>masculine</gender><displayName>Meter</displayName>
     <unitPattern count="one">{0} Meter</unitPattern>
@@ -27,7 +28,8 @@ XX = """<ldml><units>
   <unit type="duration-hour"><displayName>ore</displayName><unitPattern count="one">{0} ora</unitPattern>
     <perUnitPattern>{0} all’ora</perUnitPattern></unit>
   <unit type="length-fathom"><gender>feminine</gender><displayName>Brassen</displayName>
-    <unitPattern count="one">{0} Brasse</unitPattern><unitPattern count="other">{0} Brassen</unitPattern></unit>
+    <unitPattern count="one">{0} Brasse</unitPattern><unitPattern count="other">{0} Brassen</unitPattern>
+    <unitPattern count="one" case="accusative">{0} Brassę</unitPattern></unit>
 </unitLength>
 <unitLength type="short">
   <unit type="length-meter"><displayName>m</displayName><unitPattern count="one">{0} m</unitPattern></unit>
@@ -38,6 +40,12 @@ BASE = """<ldml><units><unitLength type="long">
   <unit type="length-meter"><displayName>metres</displayName><unitPattern count="one">{0} metre</unitPattern></unit>
   <unit type="duration-second"><displayName>Sekunden</displayName><unitPattern count="one">{0} Sekunde</unitPattern></unit>
 </unitLength></units></ldml>"""
+# The denominator of "per" takes the accusative in "xx", as in Polish.
+GRAMMAR = """<supplementalData><grammaticalDerivations locales="root">
+  <deriveComponent feature="case" structure="per" value0="compound" value1="nominative"/>
+</grammaticalDerivations><grammaticalDerivations locales="xx">
+  <deriveComponent feature="case" structure="per" value0="compound" value1="accusative"/>
+</grammaticalDerivations></supplementalData>"""
 TABLE = """[units]
 Meter\tlength-meter
 Kilometer\t10p3 length-meter
@@ -71,8 +79,11 @@ class Fixture(unittest.TestCase):
     def setUp(self):
         self.dir = tempfile.TemporaryDirectory()
         root = self.dir.name
-        self.cldr = os.path.join(root, "cldr")
+        self.cldr = os.path.join(root, "cldr", "main")
         os.makedirs(self.cldr)
+        os.makedirs(os.path.join(root, "cldr", "supplemental"))
+        with open(os.path.join(root, "cldr", "supplemental", "grammaticalFeatures.xml"), "w", encoding="utf-8") as f:
+            f.write(GRAMMAR)
         for name, text in (("xx.xml", XX), ("base.xml", BASE)):
             with open(os.path.join(self.cldr, name), "w", encoding="utf-8") as f:
                 f.write(text)
@@ -117,6 +128,9 @@ class Composition(Fixture):
             ("length-meter per duration-second", "Meter pro Sekunde"),  # per pattern from base
             ("length-meter per duration-hour", "Meter all’ora"),  # the unit's own per form wins
             ("10p3 length-meter per duration-hour", "Kilometer all’ora"),
+            # The denominator in the accusative, its power agreeing in case and gender.
+            ("length-meter per square length-fathom", "Meter pro Brassę carrą"),
+            ("length-meter per length-fathom", "Meter pro Brassę"),
             ("length-mile", None),                       # CLDR lacks the unit
             ("10p6 length-meter", None),                 # ... or the prefix
         ]
