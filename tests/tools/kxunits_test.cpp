@@ -97,8 +97,8 @@ TEST(KxunitsCommandLine, MistakesExitWithTwoAndSayWhatWasWrong) {
          "must differ"},
         {"separator equal to the locale's other one", {"format", "1", "Meter", "--decimal-separator", ","}, 2,
          "must differ"},
-        {"locale without translations", {"units", "--locale", "ja-JP"}, 2,
-         "no translations for locale \"ja-JP\"; shipped locales: "},
+        {"locale without translations", {"units", "--locale", "hi-IN"}, 2,
+         "no translations for locale \"hi-IN\"; shipped locales: "},
         {"locales takes no argument", {"locales", "extra"}, 2, "too many arguments"},
         {"repl with unknown unit", {"repl", "Nope"}, 2, "repl: unknown unit, symbol or group \"Nope\""},
     };
@@ -134,7 +134,7 @@ TEST(KxunitsListings, LocalesListsTheShippedOnesAndMarksTheUsersOne) {
     // when shipped, else en-US.
     QString const rows[] = {"de-DE  0x0407  Deutsch (Deutschland)", "en-GB  0x0809  British English",
                             "en-US  0x0409  American English", QString::fromUtf8("fr-FR  0x040c  français (France)")};
-    for (auto [lang, marked] : {std::pair{"C", 2}, {"de_DE.UTF-8", 0}, {"en_GB.UTF-8", 1}, {"fr_FR", 3}, {"ja_JP.UTF-8", 2}}) {
+    for (auto [lang, marked] : {std::pair{"C", 2}, {"de_DE.UTF-8", 0}, {"en_GB.UTF-8", 1}, {"fr_FR", 3}, {"hi_IN.UTF-8", 2}}) {
         SCOPED_TRACE(lang);
         ToolRun const run = RunTool({"locales"}, {}, QString::fromLatin1(lang));
         QStringList const lines = Lines(run.out);

@@ -3470,7 +3470,7 @@
     </message>
     <message>
         <source>fortnight</source>
-        <translation>2 週間</translation>
+        <translation>二週間</translation>
     </message>
     <message>
         <source>month</source>
