@@ -61,8 +61,13 @@ SOURCE_LOCALE = "en-US"
 
 # ---------------------------------------------------------------- the table
 
+# "no-prefix-patterns": the locale's CLDR prefix patterns are not usable (zh_Hant's
+# spell out the whole prefixed meter, "{0} 佑米"), so prefixed units CLDR does not
+# carry itself are named by hand there.
+LOCALE_OPTIONS = {"no-prefix-patterns"}
+
 Table = collections.namedtuple("Table", "units differences locales")
-LocaleRow = collections.namedtuple("LocaleRow", "files symbols")
+LocaleRow = collections.namedtuple("LocaleRow", "files symbols options")
 
 
 def read_table(path):
@@ -84,8 +89,12 @@ def read_table(path):
                 units[cells[0]] = cells[1]
             elif section == "differences" and len(cells) == 3:
                 differences[(cells[0], cells[1])] = cells[2]
-            elif section == "locales" and len(cells) == 3:
-                locales[cells[0]] = LocaleRow(cells[1].split(), cells[2])
+            elif section == "locales" and len(cells) in (3, 4):
+                options = set(cells[3].split(",")) if len(cells) == 4 else set()
+                unknown = options - LOCALE_OPTIONS
+                if unknown:
+                    raise ValueError(f"{where}: unknown option {', '.join(sorted(unknown))}")
+                locales[cells[0]] = LocaleRow(cells[1].split(), cells[2], options)
             else:
                 raise ValueError(f"{where}: not a row of section [{section}]")
     return Table(units, differences, locales)
@@ -117,7 +126,7 @@ class Cldr:
 
     NOMINATIVE = "nominative"
 
-    def __init__(self, main_dir, files):
+    def __init__(self, main_dir, files, options=()):
         self.singular, self.plural, self.forms = {}, {}, {}
         self.patterns = {}   # (kind, gender or None, case) -> pattern, for count "one" or all counts
         self.cases = {}      # (unit type, case) -> singular in that case
@@ -131,6 +140,8 @@ class Cldr:
                 if length.get("type") == "long":
                     self._read(length)
         self.rules = read_derivations(main_dir, files[0].split("_")[0])
+        if "no-prefix-patterns" in options:
+            self.patterns = {k: v for k, v in self.patterns.items() if not re.fullmatch(r"10p-?\d+|1024p\d+", k[0])}
 
     def _read(self, length):
         for compound in length.iter("compoundUnit"):
@@ -331,7 +342,7 @@ def open_cldr(args, table, locale):
     row = table.locales.get(locale)
     if row is None:
         raise SystemExit(f"{locale}: no row in the [locales] section of the table")
-    return Cldr(args.cldr, row.files)
+    return Cldr(args.cldr, row.files, row.options)
 
 
 def refresh(args, table, catalogue, locale):

@@ -138,6 +138,11 @@ class Composition(Fixture):
             with self.subTest(expression):
                 self.assertEqual(cldr.compose(expression), expected)
 
+    def test_locale_option_drops_unusable_prefix_patterns(self):
+        cldr = gen.Cldr(self.cldr, ["xx", "base"], {"no-prefix-patterns"})
+        self.assertIsNone(cldr.compose("10p3 length-meter"))
+        self.assertEqual(cldr.compose("square length-fathom"), "Brasse carrée")
+
     def test_labels_hold_plural_forms_of_units_cldr_carries(self):
         cldr = gen.Cldr(self.cldr, ["xx", "base"])
         self.assertEqual(set(cldr.names("length-fathom")), {"Brasse", "Brassen"})
