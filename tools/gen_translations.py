@@ -155,7 +155,10 @@ class Cldr:
                     self.patterns.setdefault(key, e.text)
         for unit in length.iter("unit"):
             kind = unit.get("type")
-            patterns = [p for p in unit.findall("unitPattern") if not p.get("gender")]
+            # A pattern that writes digits into the number ("{0}0 年", tens of years) holds
+            # no name to take.
+            patterns = [p for p in unit.findall("unitPattern")
+                        if not p.get("gender") and not re.search(r"\{0\}\d", p.text or "")]
             bare = {p.get("count"): strip_placeholder(p.text) for p in patterns if not p.get("case")}
             if bare and kind not in self.singular:
                 self.singular[kind] = bare.get("one") or bare.get("other") or next(iter(bare.values()))
