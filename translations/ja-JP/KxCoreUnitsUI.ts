@@ -3685,7 +3685,7 @@
     </message>
     <message>
         <source>candlepower</source>
-        <translation>燭光</translation>
+        <translation>キャンドルパワー</translation>
     </message>
     <message>
         <source>Lux (Illuminance)</source>
