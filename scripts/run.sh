@@ -46,6 +46,7 @@ show convert "5' 6\"" Meter --symbol m --locale fr-FR
 show format 1234.5 Meter --symbol m --locale fr-FR
 show format 1234.5 Kilometer --locale en-GB
 show convert '2 imperial gallons' Liter --symbol L --locale en-GB
+show convert '3 pies' Meter --symbol m --locale es-ES
 show convert "45°30'15\"" Degree --symbol degree_OneChar --precision 4
 show parse '5 fx' Foot
 
