@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs every Debian package the build, the tests (with a font for the widgets drawn
-# offscreen), the benchmarks (with the peers they are compared against: ICU, UDUNITS-2)
-# and the fuzz targets (clang with libFuzzer) need.
+# offscreen), the benchmarks (with the peers they are compared against: ICU, UDUNITS-2),
+# the fuzz targets (clang with libFuzzer) and the translation generator's check (CLDR
+# locale data) need.
 # Idempotent: asks apt only for what is missing, and refreshes the package lists only then.
 set -euo pipefail
 
@@ -12,6 +13,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   libicu-dev libudunits2-dev
   clang libclang-rt-14-dev
+  unicode-cldr-core
 )
 
 missing=()

@@ -45,6 +45,9 @@ show parse '10 kg/m³' KilogramPerCubicMeter
 show convert '68 °F' DegreeCelsius --symbol degreeC --locale de-DE
 show convert "5' 6\"" Meter --symbol m --locale fr-FR
 show format 1234.5 Meter --symbol m --locale fr-FR
+show format 1234.5 Kilometer --locale en-GB
+show convert '2 imperial gallons' Liter --symbol L --locale en-GB
+show convert '3 pies' Meter --symbol m --locale es-ES
 show convert "45°30'15\"" Degree --symbol degree_OneChar --precision 4
 show parse '5 ft 6 in' Foot
 show convert '1.5 m + 20 cm' Meter --symbol m

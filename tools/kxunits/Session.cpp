@@ -3,9 +3,9 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QLocale>
 #include <algorithm>
 
+#include "KxCoreUnitsUI/LocaleConventions.h"
 #include "KxCoreUnitsUI/LocaleUtil.h"
 #include "KxCoreUnitsUI/UnitsManager.h"
 #include "Text.h"
@@ -143,12 +143,18 @@ QString Session::ReadNumberOptions(Arguments const& args, NumberOptions& out) {
 }
 
 QString Session::ApplyNumberOptions(NumberOptions const& options, units::UnitsFormatter& formatter) const {
-    QLocale const locale(LocaleUtil::LocaleNameToQtLocaleName(m_locale));
-    QString const group = options.groupSeparator.isEmpty() ? locale.groupSeparator() : options.groupSeparator;
-    QString const decimal = options.decimalSeparator.isEmpty() ? locale.decimalPoint() : options.decimalSeparator;
+    std::wstring const localeName = ToWide(m_locale);
+    units::LocaleConventions const conventions = units::GetLocaleConventions(localeName.c_str());
+    QString const group = options.groupSeparator.isEmpty() ? QString::fromWCharArray(conventions.groupSeparator)
+                                                           : options.groupSeparator;
+    QString const decimal = options.decimalSeparator.isEmpty() ? QString::fromWCharArray(conventions.decimalSeparator)
+                                                               : options.decimalSeparator;
     if (group == decimal) {
         // Only one of the two was given, and it equals the locale's other separator.
         return QStringLiteral("the group and decimal separators must differ (both are %1)").arg(Quoted(group));
+    }
+    if (units::ApplyLocaleConventions(formatter, localeName.c_str()) != 0) {
+        return QStringLiteral("the formatter refused the number conventions of %1").arg(m_locale);
     }
     // Each setter erases its old text only while that text still has its own kind,
     // so swapping "," and "." works in either order.

@@ -335,94 +335,117 @@
     </message>
     <message>
         <source>meter</source>
+        <translatorcomment>CLDR: Meter</translatorcomment>
         <translation>Meter</translation>
     </message>
     <message>
         <source>yottameter</source>
+        <translatorcomment>CLDR: Yottameter</translatorcomment>
         <translation>Yottameter</translation>
     </message>
     <message>
         <source>zettameter</source>
+        <translatorcomment>CLDR: Zettameter</translatorcomment>
         <translation>Zettameter</translation>
     </message>
     <message>
         <source>exameter</source>
+        <translatorcomment>CLDR: Exameter</translatorcomment>
         <translation>Exameter</translation>
     </message>
     <message>
         <source>petameter</source>
+        <translatorcomment>CLDR: Petameter</translatorcomment>
         <translation>Petameter</translation>
     </message>
     <message>
         <source>terameter</source>
+        <translatorcomment>CLDR: Terameter</translatorcomment>
         <translation>Terameter</translation>
     </message>
     <message>
         <source>gigameter</source>
+        <translatorcomment>CLDR: Gigameter</translatorcomment>
         <translation>Gigameter</translation>
     </message>
     <message>
         <source>megameter</source>
+        <translatorcomment>CLDR: Megameter</translatorcomment>
         <translation>Megameter</translation>
     </message>
     <message>
         <source>kilometer</source>
+        <translatorcomment>CLDR: Kilometer</translatorcomment>
         <translation>Kilometer</translation>
     </message>
     <message>
         <source>hectometer</source>
+        <translatorcomment>CLDR: Hektometer</translatorcomment>
         <translation>Hektometer</translation>
     </message>
     <message>
         <source>decameter</source>
+        <translatorcomment>CLDR: Dekameter</translatorcomment>
         <translation>Dekameter</translation>
     </message>
     <message>
         <source>decimeter</source>
+        <translatorcomment>CLDR: Dezimeter</translatorcomment>
         <translation>Dezimeter</translation>
     </message>
     <message>
         <source>centimeter</source>
+        <translatorcomment>CLDR: Zentimeter</translatorcomment>
         <translation>Zentimeter</translation>
     </message>
     <message>
         <source>millimeter</source>
+        <translatorcomment>CLDR: Millimeter</translatorcomment>
         <translation>Millimeter</translation>
     </message>
     <message>
         <source>micrometer</source>
+        <translatorcomment>CLDR: Mikrometer</translatorcomment>
         <translation>Mikrometer</translation>
     </message>
     <message>
         <source>nanometer</source>
+        <translatorcomment>CLDR: Nanometer</translatorcomment>
         <translation>Nanometer</translation>
     </message>
     <message>
         <source>picometer</source>
+        <translatorcomment>CLDR: Pikometer</translatorcomment>
         <translation>Pikometer</translation>
     </message>
     <message>
         <source>femtometer</source>
+        <translatorcomment>CLDR: Femtometer</translatorcomment>
         <translation>Femtometer</translation>
     </message>
     <message>
         <source>attometer</source>
+        <translatorcomment>CLDR: Attometer</translatorcomment>
         <translation>Attometer</translation>
     </message>
     <message>
         <source>zeptometer</source>
+        <translatorcomment>CLDR: Zeptometer</translatorcomment>
         <translation>Zeptometer</translation>
     </message>
     <message>
         <source>yoctometer</source>
+        <translatorcomment>CLDR: Yoktometer</translatorcomment>
         <translation>Yoktometer</translation>
     </message>
     <message>
         <source>inch</source>
+        <translatorcomment>CLDR: Zoll</translatorcomment>
         <translation>Zoll</translation>
     </message>
     <message>
         <source>foot</source>
+        <translatorcomment>CLDR: Fuß</translatorcomment>
         <translation>Fuß</translation>
     </message>
     <message>
@@ -447,6 +470,7 @@
     </message>
     <message>
         <source>yard</source>
+        <translatorcomment>CLDR: Yard</translatorcomment>
         <translation>Yard</translation>
     </message>
     <message>
@@ -459,10 +483,12 @@
     </message>
     <message>
         <source>furlong</source>
+        <translatorcomment>CLDR: Furlong</translatorcomment>
         <translation>Furlong</translation>
     </message>
     <message>
         <source>mile</source>
+        <translatorcomment>CLDR: Meile</translatorcomment>
         <translation>Meile</translation>
     </message>
     <message>
@@ -475,6 +501,7 @@
     </message>
     <message>
         <source>nautical mile</source>
+        <translatorcomment>CLDR: Seemeile</translatorcomment>
         <translation>Seemeile</translation>
     </message>
     <message>
@@ -491,6 +518,7 @@
     </message>
     <message>
         <source>microinch</source>
+        <translatorcomment>CLDR: Mikrozoll</translatorcomment>
         <translation>Mikrozoll</translation>
     </message>
     <message>
@@ -499,6 +527,7 @@
     </message>
     <message>
         <source>astronomical unit</source>
+        <translatorcomment>CLDR: Astronomische Einheit</translatorcomment>
         <translation>Astronomische Einheit</translation>
     </message>
     <message>
@@ -511,6 +540,7 @@
     </message>
     <message>
         <source>fathom</source>
+        <translatorcomment>CLDR: Faden</translatorcomment>
         <translation>Faden</translation>
     </message>
     <message>
@@ -519,6 +549,7 @@
     </message>
     <message>
         <source>light-year</source>
+        <translatorcomment>CLDR: Lichtjahr</translatorcomment>
         <translation>Lichtjahr</translation>
     </message>
     <message>
@@ -531,6 +562,7 @@
     </message>
     <message>
         <source>parsec</source>
+        <translatorcomment>CLDR: Parsec</translatorcomment>
         <translation>Parsec</translation>
     </message>
     <message>
@@ -599,22 +631,27 @@
     </message>
     <message>
         <source>square meter</source>
+        <translatorcomment>CLDR: Quadratmeter</translatorcomment>
         <translation>Quadratmeter</translation>
     </message>
     <message>
         <source>square inch</source>
+        <translatorcomment>CLDR: Quadratzoll</translatorcomment>
         <translation>Quadratzoll</translation>
     </message>
     <message>
         <source>square foot</source>
+        <translatorcomment>CLDR: Quadratfuß</translatorcomment>
         <translation>Quadratfuß</translation>
     </message>
     <message>
         <source>square yard</source>
+        <translatorcomment>CLDR: Quadratyard</translatorcomment>
         <translation>Quadratyard</translation>
     </message>
     <message>
         <source>acre</source>
+        <translatorcomment>CLDR: Acre</translatorcomment>
         <translation>Acre</translation>
     </message>
     <message>
@@ -627,22 +664,27 @@
     </message>
     <message>
         <source>hectare</source>
+        <translatorcomment>CLDR: Hektar</translatorcomment>
         <translation>Hektar</translation>
     </message>
     <message>
         <source>square kilometer</source>
+        <translatorcomment>CLDR: Quadratkilometer</translatorcomment>
         <translation>Quadratkilometer</translation>
     </message>
     <message>
         <source>square mile</source>
+        <translatorcomment>CLDR: Quadratmeile</translatorcomment>
         <translation>Quadratmeile</translation>
     </message>
     <message>
         <source>square centimeter</source>
+        <translatorcomment>CLDR: Quadratzentimeter</translatorcomment>
         <translation>Quadratzentimeter</translation>
     </message>
     <message>
         <source>square millimeter</source>
+        <translatorcomment>CLDR: Quadratmillimeter</translatorcomment>
         <translation>Quadratmillimeter</translation>
     </message>
     <message>
@@ -687,18 +729,22 @@
     </message>
     <message>
         <source>square decimeter</source>
+        <translatorcomment>CLDR: Quadratdezimeter</translatorcomment>
         <translation>Quadratdezimeter</translation>
     </message>
     <message>
         <source>square fathom</source>
+        <translatorcomment>CLDR: Quadratfaden</translatorcomment>
         <translation>Quadratfaden</translation>
     </message>
     <message>
         <source>square furlong</source>
-        <translation>Quadrat-Furlong</translation>
+        <translatorcomment>CLDR: Quadratfurlong</translatorcomment>
+        <translation>Quadratfurlong</translation>
     </message>
     <message>
         <source>square gigameter</source>
+        <translatorcomment>CLDR: Quadratgigameter</translatorcomment>
         <translation>Quadratgigameter</translation>
     </message>
     <message>
@@ -715,6 +761,7 @@
     </message>
     <message>
         <source>square light-year</source>
+        <translatorcomment>CLDR: Quadratlichtjahr</translatorcomment>
         <translation>Quadratlichtjahr</translation>
     </message>
     <message>
@@ -747,6 +794,7 @@
     </message>
     <message>
         <source>square parsec</source>
+        <translatorcomment>CLDR: Quadratparsec</translatorcomment>
         <translation>Quadratparsec</translation>
     </message>
     <message>
@@ -803,18 +851,22 @@
     </message>
     <message>
         <source>square micrometer</source>
+        <translatorcomment>CLDR: Quadratmikrometer</translatorcomment>
         <translation>Quadratmikrometer</translation>
     </message>
     <message>
         <source>liter</source>
+        <translatorcomment>CLDR: Liter</translatorcomment>
         <translation>Liter</translation>
     </message>
     <message>
         <source>cubic centimeter</source>
+        <translatorcomment>CLDR: Kubikzentimeter</translatorcomment>
         <translation>Kubikzentimeter</translation>
     </message>
     <message>
         <source>tablespoon</source>
+        <translatorcomment>CLDR: Esslöffel</translatorcomment>
         <translation>Esslöffel</translation>
     </message>
     <message>
@@ -887,22 +939,27 @@
     </message>
     <message>
         <source>centiliter</source>
+        <translatorcomment>CLDR: Zentiliter</translatorcomment>
         <translation>Zentiliter</translation>
     </message>
     <message>
         <source>cubic foot</source>
+        <translatorcomment>CLDR: Kubikfuß</translatorcomment>
         <translation>Kubikfuß</translation>
     </message>
     <message>
         <source>cubic inch</source>
+        <translatorcomment>CLDR: Kubikzoll</translatorcomment>
         <translation>Kubikzoll</translation>
     </message>
     <message>
         <source>cubic meter</source>
+        <translatorcomment>CLDR: Kubikmeter</translatorcomment>
         <translation>Kubikmeter</translation>
     </message>
     <message>
         <source>cubic yard</source>
+        <translatorcomment>CLDR: Kubikyard</translatorcomment>
         <translation>Kubikyard</translation>
     </message>
     <message>
@@ -911,10 +968,12 @@
     </message>
     <message>
         <source>microliter</source>
+        <translatorcomment>CLDR: Mikroliter</translatorcomment>
         <translation>Mikroliter</translation>
     </message>
     <message>
         <source>milliliter</source>
+        <translatorcomment>CLDR: Milliliter</translatorcomment>
         <translation>Milliliter</translation>
     </message>
     <message>
@@ -931,6 +990,7 @@
     </message>
     <message>
         <source>teaspoon</source>
+        <translatorcomment>CLDR: Teelöffel</translatorcomment>
         <translation>Teelöffel</translation>
     </message>
     <message>
@@ -947,6 +1007,7 @@
     </message>
     <message>
         <source>cubic millimeter</source>
+        <translatorcomment>CLDR: Kubikmillimeter</translatorcomment>
         <translation>Kubikmillimeter</translation>
     </message>
     <message>
@@ -975,6 +1036,7 @@
     </message>
     <message>
         <source>dekaliter</source>
+        <translatorcomment>CLDR: Dekaliter</translatorcomment>
         <translation>Dekaliter</translation>
     </message>
     <message>
@@ -983,7 +1045,8 @@
     </message>
     <message>
         <source>dram</source>
-        <translation>Drachme</translation>
+        <translatorcomment>CLDR: Dram</translatorcomment>
+        <translation>Dram</translation>
     </message>
     <message>
         <source>firkin</source>
@@ -1019,14 +1082,17 @@
     </message>
     <message>
         <source>cubic fathom</source>
+        <translatorcomment>CLDR: Kubikfaden</translatorcomment>
         <translation>Kubikfaden</translation>
     </message>
     <message>
         <source>cubic furlong</source>
-        <translation>Kubik-Furlong</translation>
+        <translatorcomment>CLDR: Kubikfurlong</translatorcomment>
+        <translation>Kubikfurlong</translation>
     </message>
     <message>
         <source>cubic gigameter</source>
+        <translatorcomment>CLDR: Kubikgigameter</translatorcomment>
         <translation>Kubikgigameter</translation>
     </message>
     <message>
@@ -1035,6 +1101,7 @@
     </message>
     <message>
         <source>cubic hectometer</source>
+        <translatorcomment>CLDR: Kubikhektometer</translatorcomment>
         <translation>Kubikhektometer</translation>
     </message>
     <message>
@@ -1047,6 +1114,7 @@
     </message>
     <message>
         <source>cubic light-year</source>
+        <translatorcomment>CLDR: Kubiklichtjahr</translatorcomment>
         <translation>Kubiklichtjahr</translation>
     </message>
     <message>
@@ -1063,10 +1131,12 @@
     </message>
     <message>
         <source>cubic mile</source>
+        <translatorcomment>CLDR: Kubikmeile</translatorcomment>
         <translation>Kubikmeile</translation>
     </message>
     <message>
         <source>cubic nautical mile</source>
+        <translatorcomment>CLDR: Kubikseemeile</translatorcomment>
         <translation>Kubikseemeile</translation>
     </message>
     <message>
@@ -1087,6 +1157,7 @@
     </message>
     <message>
         <source>cubic parsec</source>
+        <translatorcomment>CLDR: Kubikparsec</translatorcomment>
         <translation>Kubikparsec</translation>
     </message>
     <message>
@@ -1111,6 +1182,7 @@
     </message>
     <message>
         <source>cubic decimeter</source>
+        <translatorcomment>CLDR: Kubikdezimeter</translatorcomment>
         <translation>Kubikdezimeter</translation>
     </message>
     <message>
@@ -1139,6 +1211,7 @@
     </message>
     <message>
         <source>kiloliter</source>
+        <translatorcomment>CLDR: Kiloliter</translatorcomment>
         <translation>Kiloliter</translation>
     </message>
     <message>
@@ -1175,6 +1248,7 @@
     </message>
     <message>
         <source>acre-foot</source>
+        <translatorcomment>CLDR: Acre-Foot</translatorcomment>
         <translation>Acre-Foot</translation>
     </message>
     <message>
@@ -1187,94 +1261,117 @@
     </message>
     <message>
         <source>cubic micrometer</source>
+        <translatorcomment>CLDR: Kubikmikrometer</translatorcomment>
         <translation>Kubikmikrometer</translation>
     </message>
     <message>
         <source>cubic kilometer</source>
+        <translatorcomment>CLDR: Kubikkilometer</translatorcomment>
         <translation>Kubikkilometer</translation>
     </message>
     <message>
         <source>kilogram</source>
+        <translatorcomment>CLDR: Kilogramm</translatorcomment>
         <translation>Kilogramm</translation>
     </message>
     <message>
         <source>gram</source>
+        <translatorcomment>CLDR: Gramm</translatorcomment>
         <translation>Gramm</translation>
     </message>
     <message>
         <source>yottagram</source>
+        <translatorcomment>CLDR: Yottagramm</translatorcomment>
         <translation>Yottagramm</translation>
     </message>
     <message>
         <source>zettagram</source>
+        <translatorcomment>CLDR: Zettagramm</translatorcomment>
         <translation>Zettagramm</translation>
     </message>
     <message>
         <source>exagram</source>
+        <translatorcomment>CLDR: Exagramm</translatorcomment>
         <translation>Exagramm</translation>
     </message>
     <message>
         <source>petagram</source>
+        <translatorcomment>CLDR: Petagramm</translatorcomment>
         <translation>Petagramm</translation>
     </message>
     <message>
         <source>teragram</source>
+        <translatorcomment>CLDR: Teragramm</translatorcomment>
         <translation>Teragramm</translation>
     </message>
     <message>
         <source>gigagram</source>
+        <translatorcomment>CLDR: Gigagramm</translatorcomment>
         <translation>Gigagramm</translation>
     </message>
     <message>
         <source>megagram</source>
+        <translatorcomment>CLDR: Megagramm</translatorcomment>
         <translation>Megagramm</translation>
     </message>
     <message>
         <source>hectogram</source>
+        <translatorcomment>CLDR: Hektogramm</translatorcomment>
         <translation>Hektogramm</translation>
     </message>
     <message>
         <source>decagram</source>
+        <translatorcomment>CLDR: Dekagramm</translatorcomment>
         <translation>Dekagramm</translation>
     </message>
     <message>
         <source>decigram</source>
+        <translatorcomment>CLDR: Dezigramm</translatorcomment>
         <translation>Dezigramm</translation>
     </message>
     <message>
         <source>centigram</source>
+        <translatorcomment>CLDR: Zentigramm</translatorcomment>
         <translation>Zentigramm</translation>
     </message>
     <message>
         <source>milligram</source>
+        <translatorcomment>CLDR: Milligramm</translatorcomment>
         <translation>Milligramm</translation>
     </message>
     <message>
         <source>microgram</source>
+        <translatorcomment>CLDR: Mikrogramm</translatorcomment>
         <translation>Mikrogramm</translation>
     </message>
     <message>
         <source>nanogram</source>
+        <translatorcomment>CLDR: Nanogramm</translatorcomment>
         <translation>Nanogramm</translation>
     </message>
     <message>
         <source>picogram</source>
+        <translatorcomment>CLDR: Pikogramm</translatorcomment>
         <translation>Pikogramm</translation>
     </message>
     <message>
         <source>femtogram</source>
+        <translatorcomment>CLDR: Femtogramm</translatorcomment>
         <translation>Femtogramm</translation>
     </message>
     <message>
         <source>attogram</source>
+        <translatorcomment>CLDR: Attogramm</translatorcomment>
         <translation>Attogramm</translation>
     </message>
     <message>
         <source>zeptogram</source>
+        <translatorcomment>CLDR: Zeptogramm</translatorcomment>
         <translation>Zeptogramm</translation>
     </message>
     <message>
         <source>yoctogram</source>
+        <translatorcomment>CLDR: Yoktogramm</translatorcomment>
         <translation>Yoktogramm</translation>
     </message>
     <message>
@@ -1283,6 +1380,7 @@
     </message>
     <message>
         <source>pound</source>
+        <translatorcomment>CLDR: Pfund</translatorcomment>
         <translation>Pfund</translation>
     </message>
     <message>
@@ -1299,6 +1397,7 @@
     </message>
     <message>
         <source>stone</source>
+        <translatorcomment>CLDR: Stone</translatorcomment>
         <translation>Stone</translation>
     </message>
     <message>
@@ -1311,6 +1410,7 @@
     </message>
     <message>
         <source>carat</source>
+        <translatorcomment>CLDR: Karat</translatorcomment>
         <translation>Karat</translation>
     </message>
     <message>
@@ -1347,7 +1447,8 @@
     </message>
     <message>
         <source>grain</source>
-        <translation>Grain</translation>
+        <translatorcomment>CLDR: Gran</translatorcomment>
+        <translation>Gran</translation>
     </message>
     <message>
         <source>pearl grain</source>
@@ -1355,10 +1456,12 @@
     </message>
     <message>
         <source>dalton</source>
+        <translatorcomment>CLDR: Dalton</translatorcomment>
         <translation>Dalton</translation>
     </message>
     <message>
         <source>kilodalton</source>
+        <translatorcomment>CLDR: Kilodalton</translatorcomment>
         <translation>Kilodalton</translation>
     </message>
     <message>
@@ -1367,106 +1470,132 @@
     </message>
     <message>
         <source>kilogram per meter</source>
+        <translatorcomment>CLDR: Kilogramm pro Meter</translatorcomment>
         <translation>Kilogramm pro Meter</translation>
     </message>
     <message>
         <source>pound per foot</source>
+        <translatorcomment>CLDR: Pfund pro Fuß</translatorcomment>
         <translation>Pfund pro Fuß</translation>
     </message>
     <message>
         <source>mole</source>
+        <translatorcomment>CLDR: Mol</translatorcomment>
         <translation>Mol</translation>
     </message>
     <message>
         <source>yottamole</source>
+        <translatorcomment>CLDR: Yottamol</translatorcomment>
         <translation>Yottamol</translation>
     </message>
     <message>
         <source>zettamole</source>
+        <translatorcomment>CLDR: Zettamol</translatorcomment>
         <translation>Zettamol</translation>
     </message>
     <message>
         <source>examole</source>
+        <translatorcomment>CLDR: Examol</translatorcomment>
         <translation>Examol</translation>
     </message>
     <message>
         <source>petamole</source>
+        <translatorcomment>CLDR: Petamol</translatorcomment>
         <translation>Petamol</translation>
     </message>
     <message>
         <source>teramole</source>
+        <translatorcomment>CLDR: Teramol</translatorcomment>
         <translation>Teramol</translation>
     </message>
     <message>
         <source>gigamole</source>
+        <translatorcomment>CLDR: Gigamol</translatorcomment>
         <translation>Gigamol</translation>
     </message>
     <message>
         <source>megamole</source>
+        <translatorcomment>CLDR: Megamol</translatorcomment>
         <translation>Megamol</translation>
     </message>
     <message>
         <source>kilomole</source>
+        <translatorcomment>CLDR: Kilomol</translatorcomment>
         <translation>Kilomol</translation>
     </message>
     <message>
         <source>hectomole</source>
+        <translatorcomment>CLDR: Hektomol</translatorcomment>
         <translation>Hektomol</translation>
     </message>
     <message>
         <source>decamole</source>
+        <translatorcomment>CLDR: Dekamol</translatorcomment>
         <translation>Dekamol</translation>
     </message>
     <message>
         <source>decimole</source>
+        <translatorcomment>CLDR: Dezimol</translatorcomment>
         <translation>Dezimol</translation>
     </message>
     <message>
         <source>centimole</source>
+        <translatorcomment>CLDR: Zentimol</translatorcomment>
         <translation>Zentimol</translation>
     </message>
     <message>
         <source>millimole</source>
+        <translatorcomment>CLDR: Millimol</translatorcomment>
         <translation>Millimol</translation>
     </message>
     <message>
         <source>micromole</source>
+        <translatorcomment>CLDR: Mikromol</translatorcomment>
         <translation>Mikromol</translation>
     </message>
     <message>
         <source>nanomole</source>
+        <translatorcomment>CLDR: Nanomol</translatorcomment>
         <translation>Nanomol</translation>
     </message>
     <message>
         <source>picomole</source>
+        <translatorcomment>CLDR: Pikomol</translatorcomment>
         <translation>Pikomol</translation>
     </message>
     <message>
         <source>femtomole</source>
+        <translatorcomment>CLDR: Femtomol</translatorcomment>
         <translation>Femtomol</translation>
     </message>
     <message>
         <source>attomole</source>
+        <translatorcomment>CLDR: Attomol</translatorcomment>
         <translation>Attomol</translation>
     </message>
     <message>
         <source>zeptomole</source>
+        <translatorcomment>CLDR: Zeptomol</translatorcomment>
         <translation>Zeptomol</translation>
     </message>
     <message>
         <source>yoctomole</source>
+        <translatorcomment>CLDR: Yoktomol</translatorcomment>
         <translation>Yoktomol</translation>
     </message>
     <message>
         <source>radian</source>
+        <translatorcomment>CLDR: Radiant</translatorcomment>
         <translation>Radiant</translation>
     </message>
     <message>
         <source>degree</source>
+        <translatorcomment>CLDR: Grad</translatorcomment>
         <translation>Grad</translation>
     </message>
     <message>
         <source>milliradian</source>
+        <translatorcomment>CLDR: Milliradiant</translatorcomment>
         <translation>Milliradiant</translation>
     </message>
     <message>
@@ -1487,10 +1616,12 @@
     </message>
     <message>
         <source>angle minute</source>
+        <translatorcomment>CLDR: Winkelminute</translatorcomment>
         <translation>Winkelminute</translation>
     </message>
     <message>
         <source>angle second</source>
+        <translatorcomment>CLDR: Winkelsekunde</translatorcomment>
         <translation>Winkelsekunde</translation>
     </message>
     <message>
@@ -1503,31 +1634,38 @@
     </message>
     <message>
         <source>gram per square meter</source>
+        <translatorcomment>CLDR: Gramm pro Quadratmeter</translatorcomment>
         <translation>Gramm pro Quadratmeter</translation>
     </message>
     <message>
         <source>gram per square inch</source>
+        <translatorcomment>CLDR: Gramm pro Quadratzoll</translatorcomment>
         <translation>Gramm pro Quadratzoll</translation>
     </message>
     <message>
         <source>nanogram per liter</source>
+        <translatorcomment>CLDR: Nanogramm pro Liter</translatorcomment>
         <translation>Nanogramm pro Liter</translation>
     </message>
     <message>
         <source>nanogram per deciliter</source>
+        <translatorcomment>CLDR: Nanogramm pro Deziliter</translatorcomment>
         <translation>Nanogramm pro Deziliter</translation>
     </message>
     <message>
         <source>nanogram per milliliter</source>
+        <translatorcomment>CLDR: Nanogramm pro Milliliter</translatorcomment>
         <translation>Nanogramm pro Milliliter</translation>
     </message>
     <message>
         <source>nanogram per microliter</source>
+        <translatorcomment>CLDR: Nanogramm pro Mikroliter</translatorcomment>
         <translation>Nanogramm pro Mikroliter</translation>
     </message>
     <message>
         <source>part per million</source>
-        <translation>Teile pro Million</translation>
+        <translatorcomment>CLDR: Millionstel</translatorcomment>
+        <translation>Millionstel</translation>
     </message>
     <message>
         <source>part per billion</source>
@@ -1535,86 +1673,107 @@
     </message>
     <message>
         <source>ampere</source>
+        <translatorcomment>CLDR: Ampere</translatorcomment>
         <translation>Ampere</translation>
     </message>
     <message>
         <source>yottaampere</source>
+        <translatorcomment>CLDR: Yottaampere</translatorcomment>
         <translation>Yottaampere</translation>
     </message>
     <message>
         <source>zettaampere</source>
+        <translatorcomment>CLDR: Zettaampere</translatorcomment>
         <translation>Zettaampere</translation>
     </message>
     <message>
         <source>exaampere</source>
+        <translatorcomment>CLDR: Exaampere</translatorcomment>
         <translation>Exaampere</translation>
     </message>
     <message>
         <source>petaampere</source>
+        <translatorcomment>CLDR: Petaampere</translatorcomment>
         <translation>Petaampere</translation>
     </message>
     <message>
         <source>teraampere</source>
+        <translatorcomment>CLDR: Teraampere</translatorcomment>
         <translation>Teraampere</translation>
     </message>
     <message>
         <source>gigaampere</source>
+        <translatorcomment>CLDR: Gigaampere</translatorcomment>
         <translation>Gigaampere</translation>
     </message>
     <message>
         <source>megaampere</source>
+        <translatorcomment>CLDR: Megaampere</translatorcomment>
         <translation>Megaampere</translation>
     </message>
     <message>
         <source>kiloampere</source>
+        <translatorcomment>CLDR: Kiloampere</translatorcomment>
         <translation>Kiloampere</translation>
     </message>
     <message>
         <source>hectoampere</source>
+        <translatorcomment>CLDR: Hektoampere</translatorcomment>
         <translation>Hektoampere</translation>
     </message>
     <message>
         <source>decaampere</source>
+        <translatorcomment>CLDR: Dekaampere</translatorcomment>
         <translation>Dekaampere</translation>
     </message>
     <message>
         <source>deciampere</source>
+        <translatorcomment>CLDR: Deziampere</translatorcomment>
         <translation>Deziampere</translation>
     </message>
     <message>
         <source>centiampere</source>
+        <translatorcomment>CLDR: Zentiampere</translatorcomment>
         <translation>Zentiampere</translation>
     </message>
     <message>
         <source>milliampere</source>
+        <translatorcomment>CLDR: Milliampere</translatorcomment>
         <translation>Milliampere</translation>
     </message>
     <message>
         <source>microampere</source>
+        <translatorcomment>CLDR: Mikroampere</translatorcomment>
         <translation>Mikroampere</translation>
     </message>
     <message>
         <source>nanoampere</source>
+        <translatorcomment>CLDR: Nanoampere</translatorcomment>
         <translation>Nanoampere</translation>
     </message>
     <message>
         <source>picoampere</source>
+        <translatorcomment>CLDR: Pikoampere</translatorcomment>
         <translation>Pikoampere</translation>
     </message>
     <message>
         <source>femtoampere</source>
+        <translatorcomment>CLDR: Femtoampere</translatorcomment>
         <translation>Femtoampere</translation>
     </message>
     <message>
         <source>attoampere</source>
+        <translatorcomment>CLDR: Attoampere</translatorcomment>
         <translation>Attoampere</translation>
     </message>
     <message>
         <source>zeptoampere</source>
+        <translatorcomment>CLDR: Zeptoampere</translatorcomment>
         <translation>Zeptoampere</translation>
     </message>
     <message>
         <source>yoctoampere</source>
+        <translatorcomment>CLDR: Yoktoampere</translatorcomment>
         <translation>Yoktoampere</translation>
     </message>
     <message>
@@ -1727,10 +1886,12 @@
     </message>
     <message>
         <source>bit per second</source>
+        <translatorcomment>CLDR: Bit pro Sekunde</translatorcomment>
         <translation>Bit pro Sekunde</translation>
     </message>
     <message>
         <source>byte per second</source>
+        <translatorcomment>CLDR: Byte pro Sekunde</translatorcomment>
         <translation>Byte pro Sekunde</translation>
     </message>
     <message>
@@ -1739,10 +1900,12 @@
     </message>
     <message>
         <source>kilobit per second</source>
+        <translatorcomment>CLDR: Kilobit pro Sekunde</translatorcomment>
         <translation>Kilobit pro Sekunde</translation>
     </message>
     <message>
         <source>kilobyte per second</source>
+        <translatorcomment>CLDR: Kilobyte pro Sekunde</translatorcomment>
         <translation>Kilobyte pro Sekunde</translation>
     </message>
     <message>
@@ -1751,50 +1914,62 @@
     </message>
     <message>
         <source>megabit per second</source>
+        <translatorcomment>CLDR: Megabit pro Sekunde</translatorcomment>
         <translation>Megabit pro Sekunde</translation>
     </message>
     <message>
         <source>megabyte per second</source>
+        <translatorcomment>CLDR: Megabyte pro Sekunde</translatorcomment>
         <translation>Megabyte pro Sekunde</translation>
     </message>
     <message>
         <source>kilogram per cubic meter</source>
+        <translatorcomment>CLDR: Kilogramm pro Kubikmeter</translatorcomment>
         <translation>Kilogramm pro Kubikmeter</translation>
     </message>
     <message>
         <source>kilogram per liter</source>
+        <translatorcomment>CLDR: Kilogramm pro Liter</translatorcomment>
         <translation>Kilogramm pro Liter</translation>
     </message>
     <message>
         <source>gram per liter</source>
+        <translatorcomment>CLDR: Gramm pro Liter</translatorcomment>
         <translation>Gramm pro Liter</translation>
     </message>
     <message>
         <source>microgram per milliliter</source>
+        <translatorcomment>CLDR: Mikrogramm pro Milliliter</translatorcomment>
         <translation>Mikrogramm pro Milliliter</translation>
     </message>
     <message>
         <source>milligram per milliliter</source>
+        <translatorcomment>CLDR: Milligramm pro Milliliter</translatorcomment>
         <translation>Milligramm pro Milliliter</translation>
     </message>
     <message>
         <source>pound per gallon</source>
+        <translatorcomment>CLDR: Pfund pro Gallone</translatorcomment>
         <translation>Pfund pro Gallone</translation>
     </message>
     <message>
         <source>ounce per gallon</source>
+        <translatorcomment>CLDR: Unze pro Gallone</translatorcomment>
         <translation>Unze pro Gallone</translation>
     </message>
     <message>
         <source>pound per cubic foot</source>
+        <translatorcomment>CLDR: Pfund pro Kubikfuß</translatorcomment>
         <translation>Pfund pro Kubikfuß</translation>
     </message>
     <message>
         <source>pound per cubic inch</source>
+        <translatorcomment>CLDR: Pfund pro Kubikzoll</translatorcomment>
         <translation>Pfund pro Kubikzoll</translation>
     </message>
     <message>
         <source>gram per cubic centimeter</source>
+        <translatorcomment>CLDR: Gramm pro Kubikzentimeter</translatorcomment>
         <translation>Gramm pro Kubikzentimeter</translation>
     </message>
     <message>
@@ -1803,10 +1978,12 @@
     </message>
     <message>
         <source>newton per cubic meter</source>
+        <translatorcomment>CLDR: Newton pro Kubikmeter</translatorcomment>
         <translation>Newton pro Kubikmeter</translation>
     </message>
     <message>
         <source>kilonewton per cubic meter</source>
+        <translatorcomment>CLDR: Kilonewton pro Kubikmeter</translatorcomment>
         <translation>Kilonewton pro Kubikmeter</translation>
     </message>
     <message>
@@ -1823,14 +2000,17 @@
     </message>
     <message>
         <source>joule</source>
+        <translatorcomment>CLDR: Joule</translatorcomment>
         <translation>Joule</translation>
     </message>
     <message>
         <source>calorie</source>
+        <translatorcomment>CLDR: Kalorie</translatorcomment>
         <translation>Kalorie</translation>
     </message>
     <message>
         <source>kilocalorie</source>
+        <translatorcomment>CLDR: Kilokalorie</translatorcomment>
         <translation>Kilokalorie</translation>
     </message>
     <message>
@@ -1867,14 +2047,17 @@
     </message>
     <message>
         <source>kiloelectronvolt</source>
+        <translatorcomment>CLDR: Kiloelektronenvolt</translatorcomment>
         <translation>Kiloelektronenvolt</translation>
     </message>
     <message>
         <source>megaelectronvolt</source>
+        <translatorcomment>CLDR: Megaelektronenvolt</translatorcomment>
         <translation>Megaelektronenvolt</translation>
     </message>
     <message>
         <source>electronvolt</source>
+        <translatorcomment>CLDR: Elektronenvolt</translatorcomment>
         <translation>Elektronenvolt</translation>
     </message>
     <message>
@@ -1883,6 +2066,7 @@
     </message>
     <message>
         <source>kilowatt hour</source>
+        <translatorcomment>CLDR: Kilowattstunde</translatorcomment>
         <translation>Kilowattstunde</translation>
     </message>
     <message>
@@ -1899,18 +2083,22 @@
     </message>
     <message>
         <source>newton meter</source>
+        <translatorcomment>CLDR: Newtonmeter</translatorcomment>
         <translation>Newtonmeter</translation>
     </message>
     <message>
         <source>decanewton meter</source>
+        <translatorcomment>CLDR: Dekanewtonmeter</translatorcomment>
         <translation>Dekanewtonmeter</translation>
     </message>
     <message>
         <source>kilonewton meter</source>
+        <translatorcomment>CLDR: Kilonewtonmeter</translatorcomment>
         <translation>Kilonewtonmeter</translation>
     </message>
     <message>
         <source>meganewton meter</source>
+        <translatorcomment>CLDR: Meganewtonmeter</translatorcomment>
         <translation>Meganewtonmeter</translation>
     </message>
     <message>
@@ -1963,74 +2151,92 @@
     </message>
     <message>
         <source>cubic meter per second</source>
+        <translatorcomment>CLDR: Kubikmeter pro Sekunde</translatorcomment>
         <translation>Kubikmeter pro Sekunde</translation>
     </message>
     <message>
         <source>liter per second</source>
+        <translatorcomment>CLDR: Liter pro Sekunde</translatorcomment>
         <translation>Liter pro Sekunde</translation>
     </message>
     <message>
         <source>liter per minute</source>
+        <translatorcomment>CLDR: Liter pro Minute</translatorcomment>
         <translation>Liter pro Minute</translation>
     </message>
     <message>
         <source>liter per hour</source>
+        <translatorcomment>CLDR: Liter pro Stunde</translatorcomment>
         <translation>Liter pro Stunde</translation>
     </message>
     <message>
         <source>gallon per second</source>
+        <translatorcomment>CLDR: Gallone pro Sekunde</translatorcomment>
         <translation>Gallone pro Sekunde</translation>
     </message>
     <message>
         <source>gallon per minute</source>
+        <translatorcomment>CLDR: Gallone pro Minute</translatorcomment>
         <translation>Gallone pro Minute</translation>
     </message>
     <message>
         <source>gallon per hour</source>
+        <translatorcomment>CLDR: Gallone pro Stunde</translatorcomment>
         <translation>Gallone pro Stunde</translation>
     </message>
     <message>
         <source>gallon per day</source>
+        <translatorcomment>CLDR: Gallone pro Tag</translatorcomment>
         <translation>Gallone pro Tag</translation>
     </message>
     <message>
         <source>milliliter per minute</source>
+        <translatorcomment>CLDR: Milliliter pro Minute</translatorcomment>
         <translation>Milliliter pro Minute</translation>
     </message>
     <message>
         <source>cubic centimeter per minute</source>
+        <translatorcomment>CLDR: Kubikzentimeter pro Minute</translatorcomment>
         <translation>Kubikzentimeter pro Minute</translation>
     </message>
     <message>
         <source>cubic foot per hour</source>
+        <translatorcomment>CLDR: Kubikfuß pro Stunde</translatorcomment>
         <translation>Kubikfuß pro Stunde</translation>
     </message>
     <message>
         <source>cubic foot per minute</source>
+        <translatorcomment>CLDR: Kubikfuß pro Minute</translatorcomment>
         <translation>Kubikfuß pro Minute</translation>
     </message>
     <message>
         <source>cubic foot per second</source>
+        <translatorcomment>CLDR: Kubikfuß pro Sekunde</translatorcomment>
         <translation>Kubikfuß pro Sekunde</translation>
     </message>
     <message>
         <source>cubic inch per minute</source>
+        <translatorcomment>CLDR: Kubikzoll pro Minute</translatorcomment>
         <translation>Kubikzoll pro Minute</translation>
     </message>
     <message>
         <source>cubic meter per hour</source>
+        <translatorcomment>CLDR: Kubikmeter pro Stunde</translatorcomment>
         <translation>Kubikmeter pro Stunde</translation>
     </message>
     <message>
         <source>cubic meter per minute</source>
+        <translatorcomment>CLDR: Kubikmeter pro Minute</translatorcomment>
         <translation>Kubikmeter pro Minute</translation>
     </message>
     <message>
         <source>cubic centimeter per second</source>
+        <translatorcomment>CLDR: Kubikzentimeter pro Sekunde</translatorcomment>
         <translation>Kubikzentimeter pro Sekunde</translation>
     </message>
     <message>
         <source>cubic centimeter per hour</source>
+        <translatorcomment>CLDR: Kubikzentimeter pro Stunde</translatorcomment>
         <translation>Kubikzentimeter pro Stunde</translation>
     </message>
     <message>
@@ -2063,6 +2269,7 @@
     </message>
     <message>
         <source>liter per day</source>
+        <translatorcomment>CLDR: Liter pro Tag</translatorcomment>
         <translation>Liter pro Tag</translation>
     </message>
     <message>
@@ -2079,26 +2286,32 @@
     </message>
     <message>
         <source>cubic foot per day</source>
+        <translatorcomment>CLDR: Kubikfuß pro Tag</translatorcomment>
         <translation>Kubikfuß pro Tag</translation>
     </message>
     <message>
         <source>cubic meter per day</source>
+        <translatorcomment>CLDR: Kubikmeter pro Tag</translatorcomment>
         <translation>Kubikmeter pro Tag</translation>
     </message>
     <message>
         <source>cubic yard per minute</source>
+        <translatorcomment>CLDR: Kubikyard pro Minute</translatorcomment>
         <translation>Kubikyard pro Minute</translation>
     </message>
     <message>
         <source>acre foot per day</source>
+        <translatorcomment>CLDR: Acre-Foot pro Tag</translatorcomment>
         <translation>Acre-Foot pro Tag</translation>
     </message>
     <message>
         <source>acre foot per hour</source>
+        <translatorcomment>CLDR: Acre-Foot pro Stunde</translatorcomment>
         <translation>Acre-Foot pro Stunde</translation>
     </message>
     <message>
         <source>acre foot per minute</source>
+        <translatorcomment>CLDR: Acre-Foot pro Minute</translatorcomment>
         <translation>Acre-Foot pro Minute</translation>
     </message>
     <message>
@@ -2115,38 +2328,47 @@
     </message>
     <message>
         <source>kilogram per second</source>
+        <translatorcomment>CLDR: Kilogramm pro Sekunde</translatorcomment>
         <translation>Kilogramm pro Sekunde</translation>
     </message>
     <message>
         <source>kilogram per minute</source>
+        <translatorcomment>CLDR: Kilogramm pro Minute</translatorcomment>
         <translation>Kilogramm pro Minute</translation>
     </message>
     <message>
         <source>kilogram per hour</source>
+        <translatorcomment>CLDR: Kilogramm pro Stunde</translatorcomment>
         <translation>Kilogramm pro Stunde</translation>
     </message>
     <message>
         <source>gram per second</source>
+        <translatorcomment>CLDR: Gramm pro Sekunde</translatorcomment>
         <translation>Gramm pro Sekunde</translation>
     </message>
     <message>
         <source>gram per minute</source>
+        <translatorcomment>CLDR: Gramm pro Minute</translatorcomment>
         <translation>Gramm pro Minute</translation>
     </message>
     <message>
         <source>gram per hour</source>
+        <translatorcomment>CLDR: Gramm pro Stunde</translatorcomment>
         <translation>Gramm pro Stunde</translation>
     </message>
     <message>
         <source>pound per second</source>
+        <translatorcomment>CLDR: Pfund pro Sekunde</translatorcomment>
         <translation>Pfund pro Sekunde</translation>
     </message>
     <message>
         <source>pound per minute</source>
+        <translatorcomment>CLDR: Pfund pro Minute</translatorcomment>
         <translation>Pfund pro Minute</translation>
     </message>
     <message>
         <source>pound per hour</source>
+        <translatorcomment>CLDR: Pfund pro Stunde</translatorcomment>
         <translation>Pfund pro Stunde</translation>
     </message>
     <message>
@@ -2159,86 +2381,107 @@
     </message>
     <message>
         <source>newton</source>
+        <translatorcomment>CLDR: Newton</translatorcomment>
         <translation>Newton</translation>
     </message>
     <message>
         <source>yottanewton</source>
+        <translatorcomment>CLDR: Yottanewton</translatorcomment>
         <translation>Yottanewton</translation>
     </message>
     <message>
         <source>zettanewton</source>
+        <translatorcomment>CLDR: Zettanewton</translatorcomment>
         <translation>Zettanewton</translation>
     </message>
     <message>
         <source>exanewton</source>
+        <translatorcomment>CLDR: Exanewton</translatorcomment>
         <translation>Exanewton</translation>
     </message>
     <message>
         <source>petanewton</source>
+        <translatorcomment>CLDR: Petanewton</translatorcomment>
         <translation>Petanewton</translation>
     </message>
     <message>
         <source>teranewton</source>
+        <translatorcomment>CLDR: Teranewton</translatorcomment>
         <translation>Teranewton</translation>
     </message>
     <message>
         <source>giganewton</source>
+        <translatorcomment>CLDR: Giganewton</translatorcomment>
         <translation>Giganewton</translation>
     </message>
     <message>
         <source>meganewton</source>
+        <translatorcomment>CLDR: Meganewton</translatorcomment>
         <translation>Meganewton</translation>
     </message>
     <message>
         <source>kilonewton</source>
+        <translatorcomment>CLDR: Kilonewton</translatorcomment>
         <translation>Kilonewton</translation>
     </message>
     <message>
         <source>hectonewton</source>
+        <translatorcomment>CLDR: Hektonewton</translatorcomment>
         <translation>Hektonewton</translation>
     </message>
     <message>
         <source>decanewton</source>
+        <translatorcomment>CLDR: Dekanewton</translatorcomment>
         <translation>Dekanewton</translation>
     </message>
     <message>
         <source>decinewton</source>
+        <translatorcomment>CLDR: Dezinewton</translatorcomment>
         <translation>Dezinewton</translation>
     </message>
     <message>
         <source>centinewton</source>
+        <translatorcomment>CLDR: Zentinewton</translatorcomment>
         <translation>Zentinewton</translation>
     </message>
     <message>
         <source>millinewton</source>
+        <translatorcomment>CLDR: Millinewton</translatorcomment>
         <translation>Millinewton</translation>
     </message>
     <message>
         <source>micronewton</source>
+        <translatorcomment>CLDR: Mikronewton</translatorcomment>
         <translation>Mikronewton</translation>
     </message>
     <message>
         <source>nanonewton</source>
+        <translatorcomment>CLDR: Nanonewton</translatorcomment>
         <translation>Nanonewton</translation>
     </message>
     <message>
         <source>piconewton</source>
+        <translatorcomment>CLDR: Pikonewton</translatorcomment>
         <translation>Pikonewton</translation>
     </message>
     <message>
         <source>femtonewton</source>
+        <translatorcomment>CLDR: Femtonewton</translatorcomment>
         <translation>Femtonewton</translation>
     </message>
     <message>
         <source>attonewton</source>
+        <translatorcomment>CLDR: Attonewton</translatorcomment>
         <translation>Attonewton</translation>
     </message>
     <message>
         <source>zeptonewton</source>
+        <translatorcomment>CLDR: Zeptonewton</translatorcomment>
         <translation>Zeptonewton</translation>
     </message>
     <message>
         <source>yoctonewton</source>
+        <translatorcomment>CLDR: Yoktonewton</translatorcomment>
         <translation>Yoktonewton</translation>
     </message>
     <message>
@@ -2275,6 +2518,7 @@
     </message>
     <message>
         <source>newton per meter</source>
+        <translatorcomment>CLDR: Newton pro Meter</translatorcomment>
         <translation>Newton pro Meter</translation>
     </message>
     <message>
@@ -2295,14 +2539,17 @@
     </message>
     <message>
         <source>decanewton per meter</source>
+        <translatorcomment>CLDR: Dekanewton pro Meter</translatorcomment>
         <translation>Dekanewton pro Meter</translation>
     </message>
     <message>
         <source>kilonewton per meter</source>
+        <translatorcomment>CLDR: Kilonewton pro Meter</translatorcomment>
         <translation>Kilonewton pro Meter</translation>
     </message>
     <message>
         <source>meganewton per meter</source>
+        <translatorcomment>CLDR: Meganewton pro Meter</translatorcomment>
         <translation>Meganewton pro Meter</translation>
     </message>
     <message>
@@ -2315,22 +2562,27 @@
     </message>
     <message>
         <source>hertz</source>
+        <translatorcomment>CLDR: Hertz</translatorcomment>
         <translation>Hertz</translation>
     </message>
     <message>
         <source>kilohertz</source>
+        <translatorcomment>CLDR: Kilohertz</translatorcomment>
         <translation>Kilohertz</translation>
     </message>
     <message>
         <source>megahertz</source>
+        <translatorcomment>CLDR: Megahertz</translatorcomment>
         <translation>Megahertz</translation>
     </message>
     <message>
         <source>gigahertz</source>
+        <translatorcomment>CLDR: Gigahertz</translatorcomment>
         <translation>Gigahertz</translation>
     </message>
     <message>
         <source>terahertz</source>
+        <translatorcomment>CLDR: Terahertz</translatorcomment>
         <translation>Terahertz</translation>
     </message>
     <message>
@@ -2339,6 +2591,7 @@
     </message>
     <message>
         <source>revolution per minute</source>
+        <translatorcomment>CLDR: Umdrehung pro Minute</translatorcomment>
         <translation>Umdrehung pro Minute</translation>
     </message>
     <message>
@@ -2391,6 +2644,7 @@
     </message>
     <message>
         <source>watt</source>
+        <translatorcomment>CLDR: Watt</translatorcomment>
         <translation>Watt</translation>
     </message>
     <message>
@@ -2411,18 +2665,22 @@
     </message>
     <message>
         <source>kilocalorie per hour</source>
+        <translatorcomment>CLDR: Kilokalorie pro Stunde</translatorcomment>
         <translation>Kilokalorie pro Stunde</translation>
     </message>
     <message>
         <source>kilowatt</source>
+        <translatorcomment>CLDR: Kilowatt</translatorcomment>
         <translation>Kilowatt</translation>
     </message>
     <message>
         <source>megawatt</source>
+        <translatorcomment>CLDR: Megawatt</translatorcomment>
         <translation>Megawatt</translation>
     </message>
     <message>
         <source>microwatt</source>
+        <translatorcomment>CLDR: Mikrowatt</translatorcomment>
         <translation>Mikrowatt</translation>
     </message>
     <message>
@@ -2443,6 +2701,7 @@
     </message>
     <message>
         <source>milliwatt</source>
+        <translatorcomment>CLDR: Milliwatt</translatorcomment>
         <translation>Milliwatt</translation>
     </message>
     <message>
@@ -2455,10 +2714,12 @@
     </message>
     <message>
         <source>calorie per second</source>
+        <translatorcomment>CLDR: Kalorie pro Sekunde</translatorcomment>
         <translation>Kalorie pro Sekunde</translation>
     </message>
     <message>
         <source>kilocalorie per second</source>
+        <translatorcomment>CLDR: Kilokalorie pro Sekunde</translatorcomment>
         <translation>Kilokalorie pro Sekunde</translation>
     </message>
     <message>
@@ -2483,10 +2744,12 @@
     </message>
     <message>
         <source>watt per cubic meter</source>
+        <translatorcomment>CLDR: Watt pro Kubikmeter</translatorcomment>
         <translation>Watt pro Kubikmeter</translation>
     </message>
     <message>
         <source>watt per cubic foot</source>
+        <translatorcomment>CLDR: Watt pro Kubikfuß</translatorcomment>
         <translation>Watt pro Kubikfuß</translation>
     </message>
     <message>
@@ -2495,22 +2758,27 @@
     </message>
     <message>
         <source>watt per kilogram</source>
+        <translatorcomment>CLDR: Watt pro Kilogramm</translatorcomment>
         <translation>Watt pro Kilogramm</translation>
     </message>
     <message>
         <source>watt per square meter</source>
+        <translatorcomment>CLDR: Watt pro Quadratmeter</translatorcomment>
         <translation>Watt pro Quadratmeter</translation>
     </message>
     <message>
         <source>kilowatt per square meter</source>
+        <translatorcomment>CLDR: Kilowatt pro Quadratmeter</translatorcomment>
         <translation>Kilowatt pro Quadratmeter</translation>
     </message>
     <message>
         <source>kilowatt per square foot</source>
+        <translatorcomment>CLDR: Kilowatt pro Quadratfuß</translatorcomment>
         <translation>Kilowatt pro Quadratfuß</translation>
     </message>
     <message>
         <source>watt per square foot</source>
+        <translatorcomment>CLDR: Watt pro Quadratfuß</translatorcomment>
         <translation>Watt pro Quadratfuß</translation>
     </message>
     <message>
@@ -2519,6 +2787,7 @@
     </message>
     <message>
         <source>bar</source>
+        <translatorcomment>CLDR: Bar</translatorcomment>
         <translation>Bar</translation>
     </message>
     <message>
@@ -2531,6 +2800,7 @@
     </message>
     <message>
         <source>inch of mercury</source>
+        <translatorcomment>CLDR: Zoll Quecksilbersäule</translatorcomment>
         <translation>Zoll Quecksilbersäule</translation>
     </message>
     <message>
@@ -2539,38 +2809,47 @@
     </message>
     <message>
         <source>kilobar</source>
+        <translatorcomment>CLDR: Kilobar</translatorcomment>
         <translation>Kilobar</translation>
     </message>
     <message>
         <source>kilogram per square centimeter</source>
+        <translatorcomment>CLDR: Kilogramm pro Quadratzentimeter</translatorcomment>
         <translation>Kilogramm pro Quadratzentimeter</translation>
     </message>
     <message>
         <source>kilopascal</source>
+        <translatorcomment>CLDR: Kilopascal</translatorcomment>
         <translation>Kilopascal</translation>
     </message>
     <message>
         <source>kilopound per square inch</source>
+        <translatorcomment>CLDR: Kilopfund pro Quadratzoll</translatorcomment>
         <translation>Kilopfund pro Quadratzoll</translation>
     </message>
     <message>
         <source>mega pascal</source>
+        <translatorcomment>CLDR: Megapascal</translatorcomment>
         <translation>Megapascal</translation>
     </message>
     <message>
         <source>millibar</source>
+        <translatorcomment>CLDR: Millibar</translatorcomment>
         <translation>Millibar</translation>
     </message>
     <message>
         <source>millimeter of mercury</source>
+        <translatorcomment>CLDR: Millimeter Quecksilbersäule</translatorcomment>
         <translation>Millimeter Quecksilbersäule</translation>
     </message>
     <message>
         <source>milli pascal</source>
+        <translatorcomment>CLDR: Millipascal</translatorcomment>
         <translation>Millipascal</translation>
     </message>
     <message>
         <source>pascal</source>
+        <translatorcomment>CLDR: Pascal</translatorcomment>
         <translation>Pascal</translation>
     </message>
     <message>
@@ -2583,10 +2862,12 @@
     </message>
     <message>
         <source>pound per square foot</source>
+        <translatorcomment>CLDR: Pfund pro Quadratfuß</translatorcomment>
         <translation>Pfund pro Quadratfuß</translation>
     </message>
     <message>
         <source>pound per square inch</source>
+        <translatorcomment>CLDR: Pfund pro Quadratzoll</translatorcomment>
         <translation>Pfund pro Quadratzoll</translation>
     </message>
     <message>
@@ -2603,30 +2884,37 @@
     </message>
     <message>
         <source>newton per square millimeter</source>
+        <translatorcomment>CLDR: Newton pro Quadratmillimeter</translatorcomment>
         <translation>Newton pro Quadratmillimeter</translation>
     </message>
     <message>
         <source>newton per square meter</source>
+        <translatorcomment>CLDR: Newton pro Quadratmeter</translatorcomment>
         <translation>Newton pro Quadratmeter</translation>
     </message>
     <message>
         <source>decanewton per square millimeter</source>
+        <translatorcomment>CLDR: Dekanewton pro Quadratmillimeter</translatorcomment>
         <translation>Dekanewton pro Quadratmillimeter</translation>
     </message>
     <message>
         <source>decanewton per square meter</source>
+        <translatorcomment>CLDR: Dekanewton pro Quadratmeter</translatorcomment>
         <translation>Dekanewton pro Quadratmeter</translation>
     </message>
     <message>
         <source>kilonewton per square meter</source>
+        <translatorcomment>CLDR: Kilonewton pro Quadratmeter</translatorcomment>
         <translation>Kilonewton pro Quadratmeter</translation>
     </message>
     <message>
         <source>meganewton per square meter</source>
+        <translatorcomment>CLDR: Meganewton pro Quadratmeter</translatorcomment>
         <translation>Meganewton pro Quadratmeter</translation>
     </message>
     <message>
         <source>kilopound per square foot</source>
+        <translatorcomment>CLDR: Kilopfund pro Quadratfuß</translatorcomment>
         <translation>Kilopfund pro Quadratfuß</translation>
     </message>
     <message>
@@ -2675,6 +2963,7 @@
     </message>
     <message>
         <source>gigapascal</source>
+        <translatorcomment>CLDR: Gigapascal</translatorcomment>
         <translation>Gigapascal</translation>
     </message>
     <message>
@@ -2683,14 +2972,17 @@
     </message>
     <message>
         <source>newton per square micrometer</source>
+        <translatorcomment>CLDR: Newton pro Quadratmikrometer</translatorcomment>
         <translation>Newton pro Quadratmikrometer</translation>
     </message>
     <message>
         <source>meter per newton</source>
+        <translatorcomment>CLDR: Meter pro Newton</translatorcomment>
         <translation>Meter pro Newton</translation>
     </message>
     <message>
         <source>meter per kilonewton</source>
+        <translatorcomment>CLDR: Meter pro Kilonewton</translatorcomment>
         <translation>Meter pro Kilonewton</translation>
     </message>
     <message>
@@ -2699,10 +2991,12 @@
     </message>
     <message>
         <source>square meter per newton</source>
+        <translatorcomment>CLDR: Quadratmeter pro Newton</translatorcomment>
         <translation>Quadratmeter pro Newton</translation>
     </message>
     <message>
         <source>square meter per kilonewton</source>
+        <translatorcomment>CLDR: Quadratmeter pro Kilonewton</translatorcomment>
         <translation>Quadratmeter pro Kilonewton</translation>
     </message>
     <message>
@@ -2711,10 +3005,12 @@
     </message>
     <message>
         <source>cubic meter per newton</source>
+        <translatorcomment>CLDR: Kubikmeter pro Newton</translatorcomment>
         <translation>Kubikmeter pro Newton</translation>
     </message>
     <message>
         <source>cubic meter per kilonewton</source>
+        <translatorcomment>CLDR: Kubikmeter pro Kilonewton</translatorcomment>
         <translation>Kubikmeter pro Kilonewton</translation>
     </message>
     <message>
@@ -2723,18 +3019,22 @@
     </message>
     <message>
         <source>newton-meter per meter</source>
+        <translatorcomment>CLDR: Newtonmeter pro Meter</translatorcomment>
         <translation>Newtonmeter pro Meter</translation>
     </message>
     <message>
         <source>decanewton-meter per meter</source>
+        <translatorcomment>CLDR: Dekanewtonmeter pro Meter</translatorcomment>
         <translation>Dekanewtonmeter pro Meter</translation>
     </message>
     <message>
         <source>kilonewton-meter per meter</source>
+        <translatorcomment>CLDR: Kilonewtonmeter pro Meter</translatorcomment>
         <translation>Kilonewtonmeter pro Meter</translation>
     </message>
     <message>
         <source>meganewton-meter per meter</source>
+        <translatorcomment>CLDR: Meganewtonmeter pro Meter</translatorcomment>
         <translation>Meganewtonmeter pro Meter</translation>
     </message>
     <message>
@@ -2755,26 +3055,32 @@
     </message>
     <message>
         <source>ohm</source>
+        <translatorcomment>CLDR: Ohm</translatorcomment>
         <translation>Ohm</translation>
     </message>
     <message>
         <source>kilohm</source>
+        <translatorcomment>CLDR: Kiloohm</translatorcomment>
         <translation>Kiloohm</translation>
     </message>
     <message>
         <source>gigaohm</source>
+        <translatorcomment>CLDR: Gigaohm</translatorcomment>
         <translation>Gigaohm</translation>
     </message>
     <message>
         <source>megohm</source>
+        <translatorcomment>CLDR: Megaohm</translatorcomment>
         <translation>Megaohm</translation>
     </message>
     <message>
         <source>microohm</source>
+        <translatorcomment>CLDR: Mikroohm</translatorcomment>
         <translation>Mikroohm</translation>
     </message>
     <message>
         <source>milliohm</source>
+        <translatorcomment>CLDR: Milliohm</translatorcomment>
         <translation>Milliohm</translation>
     </message>
     <message>
@@ -2787,66 +3093,82 @@
     </message>
     <message>
         <source>meter per second</source>
+        <translatorcomment>CLDR: Meter pro Sekunde</translatorcomment>
         <translation>Meter pro Sekunde</translation>
     </message>
     <message>
         <source>millimeter per second</source>
+        <translatorcomment>CLDR: Millimeter pro Sekunde</translatorcomment>
         <translation>Millimeter pro Sekunde</translation>
     </message>
     <message>
         <source>centimeter per second</source>
+        <translatorcomment>CLDR: Zentimeter pro Sekunde</translatorcomment>
         <translation>Zentimeter pro Sekunde</translation>
     </message>
     <message>
         <source>meter per minute</source>
+        <translatorcomment>CLDR: Meter pro Minute</translatorcomment>
         <translation>Meter pro Minute</translation>
     </message>
     <message>
         <source>inch per second</source>
+        <translatorcomment>CLDR: Zoll pro Sekunde</translatorcomment>
         <translation>Zoll pro Sekunde</translation>
     </message>
     <message>
         <source>foot per second</source>
+        <translatorcomment>CLDR: Fuß pro Sekunde</translatorcomment>
         <translation>Fuß pro Sekunde</translation>
     </message>
     <message>
         <source>inch per minute</source>
+        <translatorcomment>CLDR: Zoll pro Minute</translatorcomment>
         <translation>Zoll pro Minute</translation>
     </message>
     <message>
         <source>foot per minute</source>
+        <translatorcomment>CLDR: Fuß pro Minute</translatorcomment>
         <translation>Fuß pro Minute</translation>
     </message>
     <message>
         <source>kilometer per hour</source>
+        <translatorcomment>CLDR: Kilometer pro Stunde</translatorcomment>
         <translation>Kilometer pro Stunde</translation>
     </message>
     <message>
         <source>mile per hour</source>
+        <translatorcomment>CLDR: Meile pro Stunde</translatorcomment>
         <translation>Meile pro Stunde</translation>
     </message>
     <message>
         <source>centimeter per minute</source>
+        <translatorcomment>CLDR: Zentimeter pro Minute</translatorcomment>
         <translation>Zentimeter pro Minute</translation>
     </message>
     <message>
         <source>foot per hour</source>
+        <translatorcomment>CLDR: Fuß pro Stunde</translatorcomment>
         <translation>Fuß pro Stunde</translation>
     </message>
     <message>
         <source>inch per hour</source>
+        <translatorcomment>CLDR: Zoll pro Stunde</translatorcomment>
         <translation>Zoll pro Stunde</translation>
     </message>
     <message>
         <source>kilometer per minute</source>
+        <translatorcomment>CLDR: Kilometer pro Minute</translatorcomment>
         <translation>Kilometer pro Minute</translation>
     </message>
     <message>
         <source>kilometer per second</source>
+        <translatorcomment>CLDR: Kilometer pro Sekunde</translatorcomment>
         <translation>Kilometer pro Sekunde</translation>
     </message>
     <message>
         <source>knot</source>
+        <translatorcomment>CLDR: Knoten</translatorcomment>
         <translation>Knoten</translation>
     </message>
     <message>
@@ -2855,14 +3177,17 @@
     </message>
     <message>
         <source>meter per hour</source>
+        <translatorcomment>CLDR: Meter pro Stunde</translatorcomment>
         <translation>Meter pro Stunde</translation>
     </message>
     <message>
         <source>mile per minute</source>
+        <translatorcomment>CLDR: Meile pro Minute</translatorcomment>
         <translation>Meile pro Minute</translation>
     </message>
     <message>
         <source>mile per second</source>
+        <translatorcomment>CLDR: Meile pro Sekunde</translatorcomment>
         <translation>Meile pro Sekunde</translation>
     </message>
     <message>
@@ -2875,98 +3200,122 @@
     </message>
     <message>
         <source>byte</source>
+        <translatorcomment>CLDR: Byte</translatorcomment>
         <translation>Byte</translation>
     </message>
     <message>
         <source>bit</source>
+        <translatorcomment>CLDR: Bit</translatorcomment>
         <translation>Bit</translation>
     </message>
     <message>
         <source>kilobyte</source>
+        <translatorcomment>CLDR: Kilobyte</translatorcomment>
         <translation>Kilobyte</translation>
     </message>
     <message>
         <source>megabyte</source>
+        <translatorcomment>CLDR: Megabyte</translatorcomment>
         <translation>Megabyte</translation>
     </message>
     <message>
         <source>gigabyte</source>
+        <translatorcomment>CLDR: Gigabyte</translatorcomment>
         <translation>Gigabyte</translation>
     </message>
     <message>
         <source>terabyte</source>
+        <translatorcomment>CLDR: Terabyte</translatorcomment>
         <translation>Terabyte</translation>
     </message>
     <message>
         <source>kibibyte</source>
+        <translatorcomment>CLDR: Kibibyte</translatorcomment>
         <translation>Kibibyte</translation>
     </message>
     <message>
         <source>mebibyte</source>
+        <translatorcomment>CLDR: Mebibyte</translatorcomment>
         <translation>Mebibyte</translation>
     </message>
     <message>
         <source>gibibyte</source>
+        <translatorcomment>CLDR: Gibibyte</translatorcomment>
         <translation>Gibibyte</translation>
     </message>
     <message>
         <source>tebibyte</source>
+        <translatorcomment>CLDR: Tebibyte</translatorcomment>
         <translation>Tebibyte</translation>
     </message>
     <message>
         <source>kilobit</source>
+        <translatorcomment>CLDR: Kilobit</translatorcomment>
         <translation>Kilobit</translation>
     </message>
     <message>
         <source>megabit</source>
+        <translatorcomment>CLDR: Megabit</translatorcomment>
         <translation>Megabit</translation>
     </message>
     <message>
         <source>gigabit</source>
+        <translatorcomment>CLDR: Gigabit</translatorcomment>
         <translation>Gigabit</translation>
     </message>
     <message>
         <source>petabyte</source>
+        <translatorcomment>CLDR: Petabyte</translatorcomment>
         <translation>Petabyte</translation>
     </message>
     <message>
         <source>pebibyte</source>
+        <translatorcomment>CLDR: Pebibyte</translatorcomment>
         <translation>Pebibyte</translation>
     </message>
     <message>
         <source>exabyte</source>
+        <translatorcomment>CLDR: Exabyte</translatorcomment>
         <translation>Exabyte</translation>
     </message>
     <message>
         <source>exbibyte</source>
+        <translatorcomment>CLDR: Exbibyte</translatorcomment>
         <translation>Exbibyte</translation>
     </message>
     <message>
         <source>zettabyte</source>
+        <translatorcomment>CLDR: Zettabyte</translatorcomment>
         <translation>Zettabyte</translation>
     </message>
     <message>
         <source>zebibyte</source>
+        <translatorcomment>CLDR: Zebibyte</translatorcomment>
         <translation>Zebibyte</translation>
     </message>
     <message>
         <source>yottabyte</source>
+        <translatorcomment>CLDR: Yottabyte</translatorcomment>
         <translation>Yottabyte</translation>
     </message>
     <message>
         <source>yobibyte</source>
+        <translatorcomment>CLDR: Yobibyte</translatorcomment>
         <translation>Yobibyte</translation>
     </message>
     <message>
         <source>kelvin</source>
+        <translatorcomment>CLDR: Kelvin</translatorcomment>
         <translation>Kelvin</translation>
     </message>
     <message>
         <source>degree Celsius</source>
+        <translatorcomment>CLDR: Grad Celsius</translatorcomment>
         <translation>Grad Celsius</translation>
     </message>
     <message>
         <source>degree Fahrenheit</source>
+        <translatorcomment>CLDR: Grad Fahrenheit</translatorcomment>
         <translation>Grad Fahrenheit</translation>
     </message>
     <message>
@@ -2975,110 +3324,137 @@
     </message>
     <message>
         <source>celsius per minute</source>
+        <translatorcomment>CLDR: Grad Celsius pro Minute</translatorcomment>
         <translation>Grad Celsius pro Minute</translation>
     </message>
     <message>
         <source>fahrenheit per minute</source>
+        <translatorcomment>CLDR: Grad Fahrenheit pro Minute</translatorcomment>
         <translation>Grad Fahrenheit pro Minute</translation>
     </message>
     <message>
         <source>second</source>
+        <translatorcomment>CLDR: Sekunde</translatorcomment>
         <translation>Sekunde</translation>
     </message>
     <message>
         <source>yottasecond</source>
+        <translatorcomment>CLDR: Yottasekunde</translatorcomment>
         <translation>Yottasekunde</translation>
     </message>
     <message>
         <source>zettasecond</source>
+        <translatorcomment>CLDR: Zettasekunde</translatorcomment>
         <translation>Zettasekunde</translation>
     </message>
     <message>
         <source>exasecond</source>
+        <translatorcomment>CLDR: Exasekunde</translatorcomment>
         <translation>Exasekunde</translation>
     </message>
     <message>
         <source>petasecond</source>
+        <translatorcomment>CLDR: Petasekunde</translatorcomment>
         <translation>Petasekunde</translation>
     </message>
     <message>
         <source>terasecond</source>
+        <translatorcomment>CLDR: Terasekunde</translatorcomment>
         <translation>Terasekunde</translation>
     </message>
     <message>
         <source>gigasecond</source>
+        <translatorcomment>CLDR: Gigasekunde</translatorcomment>
         <translation>Gigasekunde</translation>
     </message>
     <message>
         <source>megasecond</source>
+        <translatorcomment>CLDR: Megasekunde</translatorcomment>
         <translation>Megasekunde</translation>
     </message>
     <message>
         <source>kilosecond</source>
+        <translatorcomment>CLDR: Kilosekunde</translatorcomment>
         <translation>Kilosekunde</translation>
     </message>
     <message>
         <source>hectosecond</source>
+        <translatorcomment>CLDR: Hektosekunde</translatorcomment>
         <translation>Hektosekunde</translation>
     </message>
     <message>
         <source>decasecond</source>
+        <translatorcomment>CLDR: Dekasekunde</translatorcomment>
         <translation>Dekasekunde</translation>
     </message>
     <message>
         <source>decisecond</source>
+        <translatorcomment>CLDR: Dezisekunde</translatorcomment>
         <translation>Dezisekunde</translation>
     </message>
     <message>
         <source>centisecond</source>
+        <translatorcomment>CLDR: Zentisekunde</translatorcomment>
         <translation>Zentisekunde</translation>
     </message>
     <message>
         <source>millisecond</source>
+        <translatorcomment>CLDR: Millisekunde</translatorcomment>
         <translation>Millisekunde</translation>
     </message>
     <message>
         <source>microsecond</source>
+        <translatorcomment>CLDR: Mikrosekunde</translatorcomment>
         <translation>Mikrosekunde</translation>
     </message>
     <message>
         <source>nanosecond</source>
+        <translatorcomment>CLDR: Nanosekunde</translatorcomment>
         <translation>Nanosekunde</translation>
     </message>
     <message>
         <source>picosecond</source>
+        <translatorcomment>CLDR: Pikosekunde</translatorcomment>
         <translation>Pikosekunde</translation>
     </message>
     <message>
         <source>femtosecond</source>
+        <translatorcomment>CLDR: Femtosekunde</translatorcomment>
         <translation>Femtosekunde</translation>
     </message>
     <message>
         <source>attosecond</source>
+        <translatorcomment>CLDR: Attosekunde</translatorcomment>
         <translation>Attosekunde</translation>
     </message>
     <message>
         <source>zeptosecond</source>
+        <translatorcomment>CLDR: Zeptosekunde</translatorcomment>
         <translation>Zeptosekunde</translation>
     </message>
     <message>
         <source>yoctosecond</source>
+        <translatorcomment>CLDR: Yoktosekunde</translatorcomment>
         <translation>Yoktosekunde</translation>
     </message>
     <message>
         <source>minute</source>
+        <translatorcomment>CLDR: Minute</translatorcomment>
         <translation>Minute</translation>
     </message>
     <message>
         <source>hour</source>
+        <translatorcomment>CLDR: Stunde</translatorcomment>
         <translation>Stunde</translation>
     </message>
     <message>
         <source>day</source>
+        <translatorcomment>CLDR: Tag</translatorcomment>
         <translation>Tag</translation>
     </message>
     <message>
         <source>week</source>
+        <translatorcomment>CLDR: Woche</translatorcomment>
         <translation>Woche</translation>
     </message>
     <message>
@@ -3087,6 +3463,7 @@
     </message>
     <message>
         <source>month</source>
+        <translatorcomment>CLDR: Monat</translatorcomment>
         <translation>Monat</translation>
     </message>
     <message>
@@ -3099,6 +3476,7 @@
     </message>
     <message>
         <source>year</source>
+        <translatorcomment>CLDR: Jahr</translatorcomment>
         <translation>Jahr</translation>
     </message>
     <message>
@@ -3123,10 +3501,12 @@
     </message>
     <message>
         <source>decade</source>
+        <translatorcomment>CLDR: Jahrzehnt</translatorcomment>
         <translation>Jahrzehnt</translation>
     </message>
     <message>
         <source>century</source>
+        <translatorcomment>CLDR: Jahrhundert</translatorcomment>
         <translation>Jahrhundert</translation>
     </message>
     <message>
@@ -3239,6 +3619,7 @@
     </message>
     <message>
         <source>meter per second squared</source>
+        <translatorcomment>CLDR: Meter pro Quadratsekunde</translatorcomment>
         <translation>Meter pro Quadratsekunde</translation>
     </message>
     <message>
@@ -3251,18 +3632,22 @@
     </message>
     <message>
         <source>volt</source>
+        <translatorcomment>CLDR: Volt</translatorcomment>
         <translation>Volt</translation>
     </message>
     <message>
         <source>kilovolt</source>
+        <translatorcomment>CLDR: Kilovolt</translatorcomment>
         <translation>Kilovolt</translation>
     </message>
     <message>
         <source>microvolt</source>
+        <translatorcomment>CLDR: Mikrovolt</translatorcomment>
         <translation>Mikrovolt</translation>
     </message>
     <message>
         <source>millivolt</source>
+        <translatorcomment>CLDR: Millivolt</translatorcomment>
         <translation>Millivolt</translation>
     </message>
     <message>
@@ -3279,6 +3664,7 @@
     </message>
     <message>
         <source>candela</source>
+        <translatorcomment>CLDR: Candela</translatorcomment>
         <translation>Candela</translation>
     </message>
     <message>
@@ -3311,10 +3697,12 @@
     </message>
     <message>
         <source>lumen</source>
+        <translatorcomment>CLDR: Lumen</translatorcomment>
         <translation>Lumen</translation>
     </message>
     <message>
         <source>candela per square meter</source>
+        <translatorcomment>CLDR: Candela pro Quadratmeter</translatorcomment>
         <translation>Candela pro Quadratmeter</translation>
     </message>
     <message>
@@ -3323,6 +3711,7 @@
     </message>
     <message>
         <source>candela per square foot</source>
+        <translatorcomment>CLDR: Candela pro Quadratfuß</translatorcomment>
         <translation>Candela pro Quadratfuß</translation>
     </message>
     <message>
@@ -3331,10 +3720,12 @@
     </message>
     <message>
         <source>lumen per watt</source>
+        <translatorcomment>CLDR: Lumen pro Watt</translatorcomment>
         <translation>Lumen pro Watt</translation>
     </message>
     <message>
         <source>pascal per meter</source>
+        <translatorcomment>CLDR: Pascal pro Meter</translatorcomment>
         <translation>Pascal pro Meter</translation>
     </message>
     <message>
@@ -3355,6 +3746,7 @@
     </message>
     <message>
         <source>newton meter per degree</source>
+        <translatorcomment>CLDR: Newtonmeter pro Grad</translatorcomment>
         <translation>Newtonmeter pro Grad</translation>
     </message>
     <message>
@@ -3363,6 +3755,7 @@
     </message>
     <message>
         <source>kilonewton meter per degree</source>
+        <translatorcomment>CLDR: Kilonewtonmeter pro Grad</translatorcomment>
         <translation>Kilonewtonmeter pro Grad</translation>
     </message>
     <message>
@@ -3423,6 +3816,7 @@
     </message>
     <message>
         <source>square meter per watt</source>
+        <translatorcomment>CLDR: Quadratmeter pro Watt</translatorcomment>
         <translation>Quadratmeter pro Watt</translation>
     </message>
     <message>
@@ -3431,6 +3825,7 @@
     </message>
     <message>
         <source>square meter per kilowatt</source>
+        <translatorcomment>CLDR: Quadratmeter pro Kilowatt</translatorcomment>
         <translation>Quadratmeter pro Kilowatt</translation>
     </message>
     <message>
@@ -3471,6 +3866,7 @@
     </message>
     <message>
         <source>Ampere per meter</source>
+        <translatorcomment>CLDR: Ampere pro Meter</translatorcomment>
         <translation>Ampere pro Meter</translation>
     </message>
     <message>
@@ -3543,10 +3939,12 @@
     </message>
     <message>
         <source>joule per gram</source>
+        <translatorcomment>CLDR: Joule pro Gramm</translatorcomment>
         <translation>Joule pro Gramm</translation>
     </message>
     <message>
         <source>joule per kilogram</source>
+        <translatorcomment>CLDR: Joule pro Kilogramm</translatorcomment>
         <translation>Joule pro Kilogramm</translation>
     </message>
     <message>

@@ -335,94 +335,117 @@
     </message>
     <message>
         <source>meter</source>
+        <translatorcomment>CLDR: mètre</translatorcomment>
         <translation>mètre</translation>
     </message>
     <message>
         <source>yottameter</source>
+        <translatorcomment>CLDR: yottamètre</translatorcomment>
         <translation>yottamètre</translation>
     </message>
     <message>
         <source>zettameter</source>
+        <translatorcomment>CLDR: zettamètre</translatorcomment>
         <translation>zettamètre</translation>
     </message>
     <message>
         <source>exameter</source>
+        <translatorcomment>CLDR: examètre</translatorcomment>
         <translation>examètre</translation>
     </message>
     <message>
         <source>petameter</source>
+        <translatorcomment>CLDR: pétamètre</translatorcomment>
         <translation>pétamètre</translation>
     </message>
     <message>
         <source>terameter</source>
+        <translatorcomment>CLDR: téramètre</translatorcomment>
         <translation>téramètre</translation>
     </message>
     <message>
         <source>gigameter</source>
+        <translatorcomment>CLDR: gigamètre</translatorcomment>
         <translation>gigamètre</translation>
     </message>
     <message>
         <source>megameter</source>
+        <translatorcomment>CLDR: mégamètre</translatorcomment>
         <translation>mégamètre</translation>
     </message>
     <message>
         <source>kilometer</source>
+        <translatorcomment>CLDR: kilomètre</translatorcomment>
         <translation>kilomètre</translation>
     </message>
     <message>
         <source>hectometer</source>
+        <translatorcomment>CLDR: hectomètre</translatorcomment>
         <translation>hectomètre</translation>
     </message>
     <message>
         <source>decameter</source>
+        <translatorcomment>CLDR: décamètre</translatorcomment>
         <translation>décamètre</translation>
     </message>
     <message>
         <source>decimeter</source>
+        <translatorcomment>CLDR: décimètre</translatorcomment>
         <translation>décimètre</translation>
     </message>
     <message>
         <source>centimeter</source>
+        <translatorcomment>CLDR: centimètre</translatorcomment>
         <translation>centimètre</translation>
     </message>
     <message>
         <source>millimeter</source>
+        <translatorcomment>CLDR: millimètre</translatorcomment>
         <translation>millimètre</translation>
     </message>
     <message>
         <source>micrometer</source>
+        <translatorcomment>CLDR: micromètre</translatorcomment>
         <translation>micromètre</translation>
     </message>
     <message>
         <source>nanometer</source>
+        <translatorcomment>CLDR: nanomètre</translatorcomment>
         <translation>nanomètre</translation>
     </message>
     <message>
         <source>picometer</source>
+        <translatorcomment>CLDR: picomètre</translatorcomment>
         <translation>picomètre</translation>
     </message>
     <message>
         <source>femtometer</source>
+        <translatorcomment>CLDR: femtomètre</translatorcomment>
         <translation>femtomètre</translation>
     </message>
     <message>
         <source>attometer</source>
+        <translatorcomment>CLDR: attomètre</translatorcomment>
         <translation>attomètre</translation>
     </message>
     <message>
         <source>zeptometer</source>
+        <translatorcomment>CLDR: zeptomètre</translatorcomment>
         <translation>zeptomètre</translation>
     </message>
     <message>
         <source>yoctometer</source>
+        <translatorcomment>CLDR: yoctomètre</translatorcomment>
         <translation>yoctomètre</translation>
     </message>
     <message>
         <source>inch</source>
+        <translatorcomment>CLDR: pouce</translatorcomment>
         <translation>pouce</translation>
     </message>
     <message>
         <source>foot</source>
+        <translatorcomment>CLDR: pied</translatorcomment>
         <translation>pied</translation>
     </message>
     <message>
@@ -447,6 +470,7 @@
     </message>
     <message>
         <source>yard</source>
+        <translatorcomment>CLDR: yard</translatorcomment>
         <translation>yard</translation>
     </message>
     <message>
@@ -459,10 +483,12 @@
     </message>
     <message>
         <source>furlong</source>
+        <translatorcomment>CLDR: furlong</translatorcomment>
         <translation>furlong</translation>
     </message>
     <message>
         <source>mile</source>
+        <translatorcomment>CLDR: mile</translatorcomment>
         <translation>mile</translation>
     </message>
     <message>
@@ -475,6 +501,7 @@
     </message>
     <message>
         <source>nautical mile</source>
+        <translatorcomment>CLDR: mille marin</translatorcomment>
         <translation>mille marin</translation>
     </message>
     <message>
@@ -491,6 +518,7 @@
     </message>
     <message>
         <source>microinch</source>
+        <translatorcomment>CLDR: micropouce</translatorcomment>
         <translation>micropouce</translation>
     </message>
     <message>
@@ -499,6 +527,7 @@
     </message>
     <message>
         <source>astronomical unit</source>
+        <translatorcomment>CLDR: unité astronomique</translatorcomment>
         <translation>unité astronomique</translation>
     </message>
     <message>
@@ -511,6 +540,7 @@
     </message>
     <message>
         <source>fathom</source>
+        <translatorcomment>CLDR: brasse</translatorcomment>
         <translation>brasse</translation>
     </message>
     <message>
@@ -519,6 +549,7 @@
     </message>
     <message>
         <source>light-year</source>
+        <translatorcomment>CLDR: année-lumière</translatorcomment>
         <translation>année-lumière</translation>
     </message>
     <message>
@@ -531,6 +562,7 @@
     </message>
     <message>
         <source>parsec</source>
+        <translatorcomment>CLDR: parsec</translatorcomment>
         <translation>parsec</translation>
     </message>
     <message>
@@ -599,23 +631,28 @@
     </message>
     <message>
         <source>square meter</source>
+        <translatorcomment>CLDR: mètre carré</translatorcomment>
         <translation>mètre carré</translation>
     </message>
     <message>
         <source>square inch</source>
+        <translatorcomment>CLDR: pouce carré</translatorcomment>
         <translation>pouce carré</translation>
     </message>
     <message>
         <source>square foot</source>
+        <translatorcomment>CLDR: pied carré</translatorcomment>
         <translation>pied carré</translation>
     </message>
     <message>
         <source>square yard</source>
+        <translatorcomment>CLDR: yard carré</translatorcomment>
         <translation>yard carré</translation>
     </message>
     <message>
         <source>acre</source>
-        <translation>acre</translation>
+        <translatorcomment>CLDR: acre anglo-saxonne</translatorcomment>
+        <translation>acre anglo-saxonne</translation>
     </message>
     <message>
         <source>section</source>
@@ -627,22 +664,27 @@
     </message>
     <message>
         <source>hectare</source>
+        <translatorcomment>CLDR: hectare</translatorcomment>
         <translation>hectare</translation>
     </message>
     <message>
         <source>square kilometer</source>
+        <translatorcomment>CLDR: kilomètre carré</translatorcomment>
         <translation>kilomètre carré</translation>
     </message>
     <message>
         <source>square mile</source>
-        <translation>mile carré</translation>
+        <translatorcomment>CLDR: mille carré</translatorcomment>
+        <translation>mille carré</translation>
     </message>
     <message>
         <source>square centimeter</source>
+        <translatorcomment>CLDR: centimètre carré</translatorcomment>
         <translation>centimètre carré</translation>
     </message>
     <message>
         <source>square millimeter</source>
+        <translatorcomment>CLDR: millimètre carré</translatorcomment>
         <translation>millimètre carré</translation>
     </message>
     <message>
@@ -687,6 +729,7 @@
     </message>
     <message>
         <source>square decimeter</source>
+        <translatorcomment>CLDR: décimètre carré</translatorcomment>
         <translation>décimètre carré</translation>
     </message>
     <message>
@@ -695,10 +738,12 @@
     </message>
     <message>
         <source>square furlong</source>
+        <translatorcomment>CLDR: furlong carré</translatorcomment>
         <translation>furlong carré</translation>
     </message>
     <message>
         <source>square gigameter</source>
+        <translatorcomment>CLDR: gigamètre carré</translatorcomment>
         <translation>gigamètre carré</translation>
     </message>
     <message>
@@ -747,6 +792,7 @@
     </message>
     <message>
         <source>square parsec</source>
+        <translatorcomment>CLDR: parsec carré</translatorcomment>
         <translation>parsec carré</translation>
     </message>
     <message>
@@ -803,18 +849,22 @@
     </message>
     <message>
         <source>square micrometer</source>
+        <translatorcomment>CLDR: micromètre carré</translatorcomment>
         <translation>micromètre carré</translation>
     </message>
     <message>
         <source>liter</source>
+        <translatorcomment>CLDR: litre</translatorcomment>
         <translation>litre</translation>
     </message>
     <message>
         <source>cubic centimeter</source>
+        <translatorcomment>CLDR: centimètre cube</translatorcomment>
         <translation>centimètre cube</translation>
     </message>
     <message>
         <source>tablespoon</source>
+        <translatorcomment>CLDR: cuillère à soupe</translatorcomment>
         <translation>cuillère à soupe</translation>
     </message>
     <message>
@@ -887,22 +937,27 @@
     </message>
     <message>
         <source>centiliter</source>
+        <translatorcomment>CLDR: centilitre</translatorcomment>
         <translation>centilitre</translation>
     </message>
     <message>
         <source>cubic foot</source>
+        <translatorcomment>CLDR: pied cube</translatorcomment>
         <translation>pied cube</translation>
     </message>
     <message>
         <source>cubic inch</source>
+        <translatorcomment>CLDR: pouce cube</translatorcomment>
         <translation>pouce cube</translation>
     </message>
     <message>
         <source>cubic meter</source>
+        <translatorcomment>CLDR: mètre cube</translatorcomment>
         <translation>mètre cube</translation>
     </message>
     <message>
         <source>cubic yard</source>
+        <translatorcomment>CLDR: yard cube</translatorcomment>
         <translation>yard cube</translation>
     </message>
     <message>
@@ -911,10 +966,12 @@
     </message>
     <message>
         <source>microliter</source>
+        <translatorcomment>CLDR: microlitre</translatorcomment>
         <translation>microlitre</translation>
     </message>
     <message>
         <source>milliliter</source>
+        <translatorcomment>CLDR: millilitre</translatorcomment>
         <translation>millilitre</translation>
     </message>
     <message>
@@ -931,6 +988,7 @@
     </message>
     <message>
         <source>teaspoon</source>
+        <translatorcomment>CLDR: cuillère à café</translatorcomment>
         <translation>cuillère à café</translation>
     </message>
     <message>
@@ -947,6 +1005,7 @@
     </message>
     <message>
         <source>cubic millimeter</source>
+        <translatorcomment>CLDR: millimètre cube</translatorcomment>
         <translation>millimètre cube</translation>
     </message>
     <message>
@@ -975,6 +1034,7 @@
     </message>
     <message>
         <source>dekaliter</source>
+        <translatorcomment>CLDR: décalitre</translatorcomment>
         <translation>décalitre</translation>
     </message>
     <message>
@@ -983,6 +1043,7 @@
     </message>
     <message>
         <source>dram</source>
+        <translatorcomment>CLDR: drachme</translatorcomment>
         <translation>drachme</translation>
     </message>
     <message>
@@ -995,6 +1056,7 @@
     </message>
     <message>
         <source>cubic astronomical unit</source>
+        <translatorcomment>CLDR: unité astronomique cube</translatorcomment>
         <translation>unité astronomique cube</translation>
     </message>
     <message>
@@ -1019,14 +1081,17 @@
     </message>
     <message>
         <source>cubic fathom</source>
+        <translatorcomment>CLDR: brasse cube</translatorcomment>
         <translation>brasse cube</translation>
     </message>
     <message>
         <source>cubic furlong</source>
+        <translatorcomment>CLDR: furlong cube</translatorcomment>
         <translation>furlong cube</translation>
     </message>
     <message>
         <source>cubic gigameter</source>
+        <translatorcomment>CLDR: gigamètre cube</translatorcomment>
         <translation>gigamètre cube</translation>
     </message>
     <message>
@@ -1035,6 +1100,7 @@
     </message>
     <message>
         <source>cubic hectometer</source>
+        <translatorcomment>CLDR: hectomètre cube</translatorcomment>
         <translation>hectomètre cube</translation>
     </message>
     <message>
@@ -1047,6 +1113,7 @@
     </message>
     <message>
         <source>cubic light-year</source>
+        <translatorcomment>CLDR: année-lumière cube</translatorcomment>
         <translation>année-lumière cube</translation>
     </message>
     <message>
@@ -1063,10 +1130,12 @@
     </message>
     <message>
         <source>cubic mile</source>
-        <translation>mile cube</translation>
+        <translatorcomment>CLDR: mille cube</translatorcomment>
+        <translation>mille cube</translation>
     </message>
     <message>
         <source>cubic nautical mile</source>
+        <translatorcomment>CLDR: mille marin cube</translatorcomment>
         <translation>mille marin cube</translation>
     </message>
     <message>
@@ -1087,6 +1156,7 @@
     </message>
     <message>
         <source>cubic parsec</source>
+        <translatorcomment>CLDR: parsec cube</translatorcomment>
         <translation>parsec cube</translation>
     </message>
     <message>
@@ -1111,6 +1181,7 @@
     </message>
     <message>
         <source>cubic decimeter</source>
+        <translatorcomment>CLDR: décimètre cube</translatorcomment>
         <translation>décimètre cube</translation>
     </message>
     <message>
@@ -1139,6 +1210,7 @@
     </message>
     <message>
         <source>kiloliter</source>
+        <translatorcomment>CLDR: kilolitre</translatorcomment>
         <translation>kilolitre</translation>
     </message>
     <message>
@@ -1175,6 +1247,7 @@
     </message>
     <message>
         <source>acre-foot</source>
+        <translatorcomment>CLDR: acre-pied</translatorcomment>
         <translation>acre-pied</translation>
     </message>
     <message>
@@ -1187,94 +1260,117 @@
     </message>
     <message>
         <source>cubic micrometer</source>
+        <translatorcomment>CLDR: micromètre cube</translatorcomment>
         <translation>micromètre cube</translation>
     </message>
     <message>
         <source>cubic kilometer</source>
+        <translatorcomment>CLDR: kilomètre cube</translatorcomment>
         <translation>kilomètre cube</translation>
     </message>
     <message>
         <source>kilogram</source>
+        <translatorcomment>CLDR: kilogramme</translatorcomment>
         <translation>kilogramme</translation>
     </message>
     <message>
         <source>gram</source>
+        <translatorcomment>CLDR: gramme</translatorcomment>
         <translation>gramme</translation>
     </message>
     <message>
         <source>yottagram</source>
+        <translatorcomment>CLDR: yottagramme</translatorcomment>
         <translation>yottagramme</translation>
     </message>
     <message>
         <source>zettagram</source>
+        <translatorcomment>CLDR: zettagramme</translatorcomment>
         <translation>zettagramme</translation>
     </message>
     <message>
         <source>exagram</source>
+        <translatorcomment>CLDR: exagramme</translatorcomment>
         <translation>exagramme</translation>
     </message>
     <message>
         <source>petagram</source>
+        <translatorcomment>CLDR: pétagramme</translatorcomment>
         <translation>pétagramme</translation>
     </message>
     <message>
         <source>teragram</source>
+        <translatorcomment>CLDR: téragramme</translatorcomment>
         <translation>téragramme</translation>
     </message>
     <message>
         <source>gigagram</source>
+        <translatorcomment>CLDR: gigagramme</translatorcomment>
         <translation>gigagramme</translation>
     </message>
     <message>
         <source>megagram</source>
+        <translatorcomment>CLDR: mégagramme</translatorcomment>
         <translation>mégagramme</translation>
     </message>
     <message>
         <source>hectogram</source>
+        <translatorcomment>CLDR: hectogramme</translatorcomment>
         <translation>hectogramme</translation>
     </message>
     <message>
         <source>decagram</source>
+        <translatorcomment>CLDR: décagramme</translatorcomment>
         <translation>décagramme</translation>
     </message>
     <message>
         <source>decigram</source>
+        <translatorcomment>CLDR: décigramme</translatorcomment>
         <translation>décigramme</translation>
     </message>
     <message>
         <source>centigram</source>
+        <translatorcomment>CLDR: centigramme</translatorcomment>
         <translation>centigramme</translation>
     </message>
     <message>
         <source>milligram</source>
+        <translatorcomment>CLDR: milligramme</translatorcomment>
         <translation>milligramme</translation>
     </message>
     <message>
         <source>microgram</source>
+        <translatorcomment>CLDR: microgramme</translatorcomment>
         <translation>microgramme</translation>
     </message>
     <message>
         <source>nanogram</source>
+        <translatorcomment>CLDR: nanogramme</translatorcomment>
         <translation>nanogramme</translation>
     </message>
     <message>
         <source>picogram</source>
+        <translatorcomment>CLDR: picogramme</translatorcomment>
         <translation>picogramme</translation>
     </message>
     <message>
         <source>femtogram</source>
+        <translatorcomment>CLDR: femtogramme</translatorcomment>
         <translation>femtogramme</translation>
     </message>
     <message>
         <source>attogram</source>
+        <translatorcomment>CLDR: attogramme</translatorcomment>
         <translation>attogramme</translation>
     </message>
     <message>
         <source>zeptogram</source>
+        <translatorcomment>CLDR: zeptogramme</translatorcomment>
         <translation>zeptogramme</translation>
     </message>
     <message>
         <source>yoctogram</source>
+        <translatorcomment>CLDR: yoctogramme</translatorcomment>
         <translation>yoctogramme</translation>
     </message>
     <message>
@@ -1283,6 +1379,7 @@
     </message>
     <message>
         <source>pound</source>
+        <translatorcomment>CLDR: livre</translatorcomment>
         <translation>livre</translation>
     </message>
     <message>
@@ -1299,6 +1396,7 @@
     </message>
     <message>
         <source>stone</source>
+        <translatorcomment>CLDR: stone</translatorcomment>
         <translation>stone</translation>
     </message>
     <message>
@@ -1311,6 +1409,7 @@
     </message>
     <message>
         <source>carat</source>
+        <translatorcomment>CLDR: carat</translatorcomment>
         <translation>carat</translation>
     </message>
     <message>
@@ -1347,6 +1446,7 @@
     </message>
     <message>
         <source>grain</source>
+        <translatorcomment>CLDR: grain</translatorcomment>
         <translation>grain</translation>
     </message>
     <message>
@@ -1355,10 +1455,12 @@
     </message>
     <message>
         <source>dalton</source>
+        <translatorcomment>CLDR: dalton</translatorcomment>
         <translation>dalton</translation>
     </message>
     <message>
         <source>kilodalton</source>
+        <translatorcomment>CLDR: kilodalton</translatorcomment>
         <translation>kilodalton</translation>
     </message>
     <message>
@@ -1367,106 +1469,132 @@
     </message>
     <message>
         <source>kilogram per meter</source>
+        <translatorcomment>CLDR: kilogramme par mètre</translatorcomment>
         <translation>kilogramme par mètre</translation>
     </message>
     <message>
         <source>pound per foot</source>
+        <translatorcomment>CLDR: livre par pied</translatorcomment>
         <translation>livre par pied</translation>
     </message>
     <message>
         <source>mole</source>
+        <translatorcomment>CLDR: mole</translatorcomment>
         <translation>mole</translation>
     </message>
     <message>
         <source>yottamole</source>
+        <translatorcomment>CLDR: yottamole</translatorcomment>
         <translation>yottamole</translation>
     </message>
     <message>
         <source>zettamole</source>
+        <translatorcomment>CLDR: zettamole</translatorcomment>
         <translation>zettamole</translation>
     </message>
     <message>
         <source>examole</source>
+        <translatorcomment>CLDR: examole</translatorcomment>
         <translation>examole</translation>
     </message>
     <message>
         <source>petamole</source>
+        <translatorcomment>CLDR: pétamole</translatorcomment>
         <translation>pétamole</translation>
     </message>
     <message>
         <source>teramole</source>
+        <translatorcomment>CLDR: téramole</translatorcomment>
         <translation>téramole</translation>
     </message>
     <message>
         <source>gigamole</source>
+        <translatorcomment>CLDR: gigamole</translatorcomment>
         <translation>gigamole</translation>
     </message>
     <message>
         <source>megamole</source>
+        <translatorcomment>CLDR: mégamole</translatorcomment>
         <translation>mégamole</translation>
     </message>
     <message>
         <source>kilomole</source>
+        <translatorcomment>CLDR: kilomole</translatorcomment>
         <translation>kilomole</translation>
     </message>
     <message>
         <source>hectomole</source>
+        <translatorcomment>CLDR: hectomole</translatorcomment>
         <translation>hectomole</translation>
     </message>
     <message>
         <source>decamole</source>
+        <translatorcomment>CLDR: décamole</translatorcomment>
         <translation>décamole</translation>
     </message>
     <message>
         <source>decimole</source>
+        <translatorcomment>CLDR: décimole</translatorcomment>
         <translation>décimole</translation>
     </message>
     <message>
         <source>centimole</source>
+        <translatorcomment>CLDR: centimole</translatorcomment>
         <translation>centimole</translation>
     </message>
     <message>
         <source>millimole</source>
+        <translatorcomment>CLDR: millimole</translatorcomment>
         <translation>millimole</translation>
     </message>
     <message>
         <source>micromole</source>
+        <translatorcomment>CLDR: micromole</translatorcomment>
         <translation>micromole</translation>
     </message>
     <message>
         <source>nanomole</source>
+        <translatorcomment>CLDR: nanomole</translatorcomment>
         <translation>nanomole</translation>
     </message>
     <message>
         <source>picomole</source>
+        <translatorcomment>CLDR: picomole</translatorcomment>
         <translation>picomole</translation>
     </message>
     <message>
         <source>femtomole</source>
+        <translatorcomment>CLDR: femtomole</translatorcomment>
         <translation>femtomole</translation>
     </message>
     <message>
         <source>attomole</source>
+        <translatorcomment>CLDR: attomole</translatorcomment>
         <translation>attomole</translation>
     </message>
     <message>
         <source>zeptomole</source>
+        <translatorcomment>CLDR: zeptomole</translatorcomment>
         <translation>zeptomole</translation>
     </message>
     <message>
         <source>yoctomole</source>
+        <translatorcomment>CLDR: yoctomole</translatorcomment>
         <translation>yoctomole</translation>
     </message>
     <message>
         <source>radian</source>
+        <translatorcomment>CLDR: radian</translatorcomment>
         <translation>radian</translation>
     </message>
     <message>
         <source>degree</source>
+        <translatorcomment>CLDR: degré</translatorcomment>
         <translation>degré</translation>
     </message>
     <message>
         <source>milliradian</source>
+        <translatorcomment>CLDR: milliradian</translatorcomment>
         <translation>milliradian</translation>
     </message>
     <message>
@@ -1487,11 +1615,13 @@
     </message>
     <message>
         <source>angle minute</source>
-        <translation>minute d&apos;angle</translation>
+        <translatorcomment>CLDR: minute d’arc</translatorcomment>
+        <translation>minute d’arc</translation>
     </message>
     <message>
         <source>angle second</source>
-        <translation>seconde d&apos;angle</translation>
+        <translatorcomment>CLDR: seconde d’arc</translatorcomment>
+        <translation>seconde d’arc</translation>
     </message>
     <message>
         <source>milliarc second</source>
@@ -1503,31 +1633,38 @@
     </message>
     <message>
         <source>gram per square meter</source>
+        <translatorcomment>CLDR: gramme par mètre carré</translatorcomment>
         <translation>gramme par mètre carré</translation>
     </message>
     <message>
         <source>gram per square inch</source>
+        <translatorcomment>CLDR: gramme par pouce carré</translatorcomment>
         <translation>gramme par pouce carré</translation>
     </message>
     <message>
         <source>nanogram per liter</source>
+        <translatorcomment>CLDR: nanogramme par litre</translatorcomment>
         <translation>nanogramme par litre</translation>
     </message>
     <message>
         <source>nanogram per deciliter</source>
+        <translatorcomment>CLDR: nanogramme par décilitre</translatorcomment>
         <translation>nanogramme par décilitre</translation>
     </message>
     <message>
         <source>nanogram per milliliter</source>
+        <translatorcomment>CLDR: nanogramme par millilitre</translatorcomment>
         <translation>nanogramme par millilitre</translation>
     </message>
     <message>
         <source>nanogram per microliter</source>
+        <translatorcomment>CLDR: nanogramme par microlitre</translatorcomment>
         <translation>nanogramme par microlitre</translation>
     </message>
     <message>
         <source>part per million</source>
-        <translation>partie par million</translation>
+        <translatorcomment>CLDR: part par million</translatorcomment>
+        <translation>part par million</translation>
     </message>
     <message>
         <source>part per billion</source>
@@ -1535,86 +1672,107 @@
     </message>
     <message>
         <source>ampere</source>
+        <translatorcomment>CLDR: ampère</translatorcomment>
         <translation>ampère</translation>
     </message>
     <message>
         <source>yottaampere</source>
+        <translatorcomment>CLDR: yottaampère</translatorcomment>
         <translation>yottaampère</translation>
     </message>
     <message>
         <source>zettaampere</source>
+        <translatorcomment>CLDR: zettaampère</translatorcomment>
         <translation>zettaampère</translation>
     </message>
     <message>
         <source>exaampere</source>
+        <translatorcomment>CLDR: exaampère</translatorcomment>
         <translation>exaampère</translation>
     </message>
     <message>
         <source>petaampere</source>
+        <translatorcomment>CLDR: pétaampère</translatorcomment>
         <translation>pétaampère</translation>
     </message>
     <message>
         <source>teraampere</source>
+        <translatorcomment>CLDR: téraampère</translatorcomment>
         <translation>téraampère</translation>
     </message>
     <message>
         <source>gigaampere</source>
+        <translatorcomment>CLDR: gigaampère</translatorcomment>
         <translation>gigaampère</translation>
     </message>
     <message>
         <source>megaampere</source>
+        <translatorcomment>CLDR: mégaampère</translatorcomment>
         <translation>mégaampère</translation>
     </message>
     <message>
         <source>kiloampere</source>
+        <translatorcomment>CLDR: kiloampère</translatorcomment>
         <translation>kiloampère</translation>
     </message>
     <message>
         <source>hectoampere</source>
+        <translatorcomment>CLDR: hectoampère</translatorcomment>
         <translation>hectoampère</translation>
     </message>
     <message>
         <source>decaampere</source>
+        <translatorcomment>CLDR: décaampère</translatorcomment>
         <translation>décaampère</translation>
     </message>
     <message>
         <source>deciampere</source>
+        <translatorcomment>CLDR: déciampère</translatorcomment>
         <translation>déciampère</translation>
     </message>
     <message>
         <source>centiampere</source>
+        <translatorcomment>CLDR: centiampère</translatorcomment>
         <translation>centiampère</translation>
     </message>
     <message>
         <source>milliampere</source>
+        <translatorcomment>CLDR: milliampère</translatorcomment>
         <translation>milliampère</translation>
     </message>
     <message>
         <source>microampere</source>
+        <translatorcomment>CLDR: microampère</translatorcomment>
         <translation>microampère</translation>
     </message>
     <message>
         <source>nanoampere</source>
+        <translatorcomment>CLDR: nanoampère</translatorcomment>
         <translation>nanoampère</translation>
     </message>
     <message>
         <source>picoampere</source>
+        <translatorcomment>CLDR: picoampère</translatorcomment>
         <translation>picoampère</translation>
     </message>
     <message>
         <source>femtoampere</source>
+        <translatorcomment>CLDR: femtoampère</translatorcomment>
         <translation>femtoampère</translation>
     </message>
     <message>
         <source>attoampere</source>
+        <translatorcomment>CLDR: attoampère</translatorcomment>
         <translation>attoampère</translation>
     </message>
     <message>
         <source>zeptoampere</source>
+        <translatorcomment>CLDR: zeptoampère</translatorcomment>
         <translation>zeptoampère</translation>
     </message>
     <message>
         <source>yoctoampere</source>
+        <translatorcomment>CLDR: yoctoampère</translatorcomment>
         <translation>yoctoampère</translation>
     </message>
     <message>
@@ -1727,10 +1885,12 @@
     </message>
     <message>
         <source>bit per second</source>
+        <translatorcomment>CLDR: bit par seconde</translatorcomment>
         <translation>bit par seconde</translation>
     </message>
     <message>
         <source>byte per second</source>
+        <translatorcomment>CLDR: octet par seconde</translatorcomment>
         <translation>octet par seconde</translation>
     </message>
     <message>
@@ -1739,10 +1899,12 @@
     </message>
     <message>
         <source>kilobit per second</source>
+        <translatorcomment>CLDR: kilobit par seconde</translatorcomment>
         <translation>kilobit par seconde</translation>
     </message>
     <message>
         <source>kilobyte per second</source>
+        <translatorcomment>CLDR: kilooctet par seconde</translatorcomment>
         <translation>kilooctet par seconde</translation>
     </message>
     <message>
@@ -1751,50 +1913,62 @@
     </message>
     <message>
         <source>megabit per second</source>
+        <translatorcomment>CLDR: mégabit par seconde</translatorcomment>
         <translation>mégabit par seconde</translation>
     </message>
     <message>
         <source>megabyte per second</source>
+        <translatorcomment>CLDR: mégaoctet par seconde</translatorcomment>
         <translation>mégaoctet par seconde</translation>
     </message>
     <message>
         <source>kilogram per cubic meter</source>
+        <translatorcomment>CLDR: kilogramme par mètre cube</translatorcomment>
         <translation>kilogramme par mètre cube</translation>
     </message>
     <message>
         <source>kilogram per liter</source>
+        <translatorcomment>CLDR: kilogramme par litre</translatorcomment>
         <translation>kilogramme par litre</translation>
     </message>
     <message>
         <source>gram per liter</source>
+        <translatorcomment>CLDR: gramme par litre</translatorcomment>
         <translation>gramme par litre</translation>
     </message>
     <message>
         <source>microgram per milliliter</source>
+        <translatorcomment>CLDR: microgramme par millilitre</translatorcomment>
         <translation>microgramme par millilitre</translation>
     </message>
     <message>
         <source>milligram per milliliter</source>
+        <translatorcomment>CLDR: milligramme par millilitre</translatorcomment>
         <translation>milligramme par millilitre</translation>
     </message>
     <message>
         <source>pound per gallon</source>
+        <translatorcomment>CLDR: livre par gallon</translatorcomment>
         <translation>livre par gallon</translation>
     </message>
     <message>
         <source>ounce per gallon</source>
+        <translatorcomment>CLDR: once par gallon</translatorcomment>
         <translation>once par gallon</translation>
     </message>
     <message>
         <source>pound per cubic foot</source>
+        <translatorcomment>CLDR: livre par pied cube</translatorcomment>
         <translation>livre par pied cube</translation>
     </message>
     <message>
         <source>pound per cubic inch</source>
+        <translatorcomment>CLDR: livre par pouce cube</translatorcomment>
         <translation>livre par pouce cube</translation>
     </message>
     <message>
         <source>gram per cubic centimeter</source>
+        <translatorcomment>CLDR: gramme par centimètre cube</translatorcomment>
         <translation>gramme par centimètre cube</translation>
     </message>
     <message>
@@ -1803,10 +1977,12 @@
     </message>
     <message>
         <source>newton per cubic meter</source>
+        <translatorcomment>CLDR: newton par mètre cube</translatorcomment>
         <translation>newton par mètre cube</translation>
     </message>
     <message>
         <source>kilonewton per cubic meter</source>
+        <translatorcomment>CLDR: kilonewton par mètre cube</translatorcomment>
         <translation>kilonewton par mètre cube</translation>
     </message>
     <message>
@@ -1823,14 +1999,17 @@
     </message>
     <message>
         <source>joule</source>
+        <translatorcomment>CLDR: joule</translatorcomment>
         <translation>joule</translation>
     </message>
     <message>
         <source>calorie</source>
+        <translatorcomment>CLDR: calorie</translatorcomment>
         <translation>calorie</translation>
     </message>
     <message>
         <source>kilocalorie</source>
+        <translatorcomment>CLDR: kilocalorie</translatorcomment>
         <translation>kilocalorie</translation>
     </message>
     <message>
@@ -1867,14 +2046,17 @@
     </message>
     <message>
         <source>kiloelectronvolt</source>
+        <translatorcomment>CLDR: kiloélectronvolt</translatorcomment>
         <translation>kiloélectronvolt</translation>
     </message>
     <message>
         <source>megaelectronvolt</source>
+        <translatorcomment>CLDR: mégaélectronvolt</translatorcomment>
         <translation>mégaélectronvolt</translation>
     </message>
     <message>
         <source>electronvolt</source>
+        <translatorcomment>CLDR: électronvolt</translatorcomment>
         <translation>électronvolt</translation>
     </message>
     <message>
@@ -1883,7 +2065,8 @@
     </message>
     <message>
         <source>kilowatt hour</source>
-        <translation>kilowattheure</translation>
+        <translatorcomment>CLDR: kilowatt-heure</translatorcomment>
+        <translation>kilowatt-heure</translation>
     </message>
     <message>
         <source>kilowatt minute</source>
@@ -1899,18 +2082,22 @@
     </message>
     <message>
         <source>newton meter</source>
+        <translatorcomment>CLDR: newton-mètre</translatorcomment>
         <translation>newton-mètre</translation>
     </message>
     <message>
         <source>decanewton meter</source>
+        <translatorcomment>CLDR: décanewton-mètre</translatorcomment>
         <translation>décanewton-mètre</translation>
     </message>
     <message>
         <source>kilonewton meter</source>
+        <translatorcomment>CLDR: kilonewton-mètre</translatorcomment>
         <translation>kilonewton-mètre</translation>
     </message>
     <message>
         <source>meganewton meter</source>
+        <translatorcomment>CLDR: méganewton-mètre</translatorcomment>
         <translation>méganewton-mètre</translation>
     </message>
     <message>
@@ -1963,74 +2150,92 @@
     </message>
     <message>
         <source>cubic meter per second</source>
+        <translatorcomment>CLDR: mètre cube par seconde</translatorcomment>
         <translation>mètre cube par seconde</translation>
     </message>
     <message>
         <source>liter per second</source>
+        <translatorcomment>CLDR: litre par seconde</translatorcomment>
         <translation>litre par seconde</translation>
     </message>
     <message>
         <source>liter per minute</source>
+        <translatorcomment>CLDR: litre par minute</translatorcomment>
         <translation>litre par minute</translation>
     </message>
     <message>
         <source>liter per hour</source>
+        <translatorcomment>CLDR: litre par heure</translatorcomment>
         <translation>litre par heure</translation>
     </message>
     <message>
         <source>gallon per second</source>
+        <translatorcomment>CLDR: gallon par seconde</translatorcomment>
         <translation>gallon par seconde</translation>
     </message>
     <message>
         <source>gallon per minute</source>
+        <translatorcomment>CLDR: gallon par minute</translatorcomment>
         <translation>gallon par minute</translation>
     </message>
     <message>
         <source>gallon per hour</source>
+        <translatorcomment>CLDR: gallon par heure</translatorcomment>
         <translation>gallon par heure</translation>
     </message>
     <message>
         <source>gallon per day</source>
+        <translatorcomment>CLDR: gallon par jour</translatorcomment>
         <translation>gallon par jour</translation>
     </message>
     <message>
         <source>milliliter per minute</source>
+        <translatorcomment>CLDR: millilitre par minute</translatorcomment>
         <translation>millilitre par minute</translation>
     </message>
     <message>
         <source>cubic centimeter per minute</source>
+        <translatorcomment>CLDR: centimètre cube par minute</translatorcomment>
         <translation>centimètre cube par minute</translation>
     </message>
     <message>
         <source>cubic foot per hour</source>
+        <translatorcomment>CLDR: pied cube par heure</translatorcomment>
         <translation>pied cube par heure</translation>
     </message>
     <message>
         <source>cubic foot per minute</source>
+        <translatorcomment>CLDR: pied cube par minute</translatorcomment>
         <translation>pied cube par minute</translation>
     </message>
     <message>
         <source>cubic foot per second</source>
+        <translatorcomment>CLDR: pied cube par seconde</translatorcomment>
         <translation>pied cube par seconde</translation>
     </message>
     <message>
         <source>cubic inch per minute</source>
+        <translatorcomment>CLDR: pouce cube par minute</translatorcomment>
         <translation>pouce cube par minute</translation>
     </message>
     <message>
         <source>cubic meter per hour</source>
+        <translatorcomment>CLDR: mètre cube par heure</translatorcomment>
         <translation>mètre cube par heure</translation>
     </message>
     <message>
         <source>cubic meter per minute</source>
+        <translatorcomment>CLDR: mètre cube par minute</translatorcomment>
         <translation>mètre cube par minute</translation>
     </message>
     <message>
         <source>cubic centimeter per second</source>
+        <translatorcomment>CLDR: centimètre cube par seconde</translatorcomment>
         <translation>centimètre cube par seconde</translation>
     </message>
     <message>
         <source>cubic centimeter per hour</source>
+        <translatorcomment>CLDR: centimètre cube par heure</translatorcomment>
         <translation>centimètre cube par heure</translation>
     </message>
     <message>
@@ -2063,6 +2268,7 @@
     </message>
     <message>
         <source>liter per day</source>
+        <translatorcomment>CLDR: litre par jour</translatorcomment>
         <translation>litre par jour</translation>
     </message>
     <message>
@@ -2079,26 +2285,32 @@
     </message>
     <message>
         <source>cubic foot per day</source>
+        <translatorcomment>CLDR: pied cube par jour</translatorcomment>
         <translation>pied cube par jour</translation>
     </message>
     <message>
         <source>cubic meter per day</source>
+        <translatorcomment>CLDR: mètre cube par jour</translatorcomment>
         <translation>mètre cube par jour</translation>
     </message>
     <message>
         <source>cubic yard per minute</source>
+        <translatorcomment>CLDR: yard cube par minute</translatorcomment>
         <translation>yard cube par minute</translation>
     </message>
     <message>
         <source>acre foot per day</source>
+        <translatorcomment>CLDR: acre-pied par jour</translatorcomment>
         <translation>acre-pied par jour</translation>
     </message>
     <message>
         <source>acre foot per hour</source>
+        <translatorcomment>CLDR: acre-pied par heure</translatorcomment>
         <translation>acre-pied par heure</translation>
     </message>
     <message>
         <source>acre foot per minute</source>
+        <translatorcomment>CLDR: acre-pied par minute</translatorcomment>
         <translation>acre-pied par minute</translation>
     </message>
     <message>
@@ -2115,38 +2327,47 @@
     </message>
     <message>
         <source>kilogram per second</source>
+        <translatorcomment>CLDR: kilogramme par seconde</translatorcomment>
         <translation>kilogramme par seconde</translation>
     </message>
     <message>
         <source>kilogram per minute</source>
+        <translatorcomment>CLDR: kilogramme par minute</translatorcomment>
         <translation>kilogramme par minute</translation>
     </message>
     <message>
         <source>kilogram per hour</source>
+        <translatorcomment>CLDR: kilogramme par heure</translatorcomment>
         <translation>kilogramme par heure</translation>
     </message>
     <message>
         <source>gram per second</source>
+        <translatorcomment>CLDR: gramme par seconde</translatorcomment>
         <translation>gramme par seconde</translation>
     </message>
     <message>
         <source>gram per minute</source>
+        <translatorcomment>CLDR: gramme par minute</translatorcomment>
         <translation>gramme par minute</translation>
     </message>
     <message>
         <source>gram per hour</source>
+        <translatorcomment>CLDR: gramme par heure</translatorcomment>
         <translation>gramme par heure</translation>
     </message>
     <message>
         <source>pound per second</source>
+        <translatorcomment>CLDR: livre par seconde</translatorcomment>
         <translation>livre par seconde</translation>
     </message>
     <message>
         <source>pound per minute</source>
+        <translatorcomment>CLDR: livre par minute</translatorcomment>
         <translation>livre par minute</translation>
     </message>
     <message>
         <source>pound per hour</source>
+        <translatorcomment>CLDR: livre par heure</translatorcomment>
         <translation>livre par heure</translation>
     </message>
     <message>
@@ -2159,86 +2380,107 @@
     </message>
     <message>
         <source>newton</source>
+        <translatorcomment>CLDR: newton</translatorcomment>
         <translation>newton</translation>
     </message>
     <message>
         <source>yottanewton</source>
+        <translatorcomment>CLDR: yottanewton</translatorcomment>
         <translation>yottanewton</translation>
     </message>
     <message>
         <source>zettanewton</source>
+        <translatorcomment>CLDR: zettanewton</translatorcomment>
         <translation>zettanewton</translation>
     </message>
     <message>
         <source>exanewton</source>
+        <translatorcomment>CLDR: exanewton</translatorcomment>
         <translation>exanewton</translation>
     </message>
     <message>
         <source>petanewton</source>
+        <translatorcomment>CLDR: pétanewton</translatorcomment>
         <translation>pétanewton</translation>
     </message>
     <message>
         <source>teranewton</source>
+        <translatorcomment>CLDR: téranewton</translatorcomment>
         <translation>téranewton</translation>
     </message>
     <message>
         <source>giganewton</source>
+        <translatorcomment>CLDR: giganewton</translatorcomment>
         <translation>giganewton</translation>
     </message>
     <message>
         <source>meganewton</source>
+        <translatorcomment>CLDR: méganewton</translatorcomment>
         <translation>méganewton</translation>
     </message>
     <message>
         <source>kilonewton</source>
+        <translatorcomment>CLDR: kilonewton</translatorcomment>
         <translation>kilonewton</translation>
     </message>
     <message>
         <source>hectonewton</source>
+        <translatorcomment>CLDR: hectonewton</translatorcomment>
         <translation>hectonewton</translation>
     </message>
     <message>
         <source>decanewton</source>
+        <translatorcomment>CLDR: décanewton</translatorcomment>
         <translation>décanewton</translation>
     </message>
     <message>
         <source>decinewton</source>
+        <translatorcomment>CLDR: décinewton</translatorcomment>
         <translation>décinewton</translation>
     </message>
     <message>
         <source>centinewton</source>
+        <translatorcomment>CLDR: centinewton</translatorcomment>
         <translation>centinewton</translation>
     </message>
     <message>
         <source>millinewton</source>
+        <translatorcomment>CLDR: millinewton</translatorcomment>
         <translation>millinewton</translation>
     </message>
     <message>
         <source>micronewton</source>
+        <translatorcomment>CLDR: micronewton</translatorcomment>
         <translation>micronewton</translation>
     </message>
     <message>
         <source>nanonewton</source>
+        <translatorcomment>CLDR: nanonewton</translatorcomment>
         <translation>nanonewton</translation>
     </message>
     <message>
         <source>piconewton</source>
+        <translatorcomment>CLDR: piconewton</translatorcomment>
         <translation>piconewton</translation>
     </message>
     <message>
         <source>femtonewton</source>
+        <translatorcomment>CLDR: femtonewton</translatorcomment>
         <translation>femtonewton</translation>
     </message>
     <message>
         <source>attonewton</source>
+        <translatorcomment>CLDR: attonewton</translatorcomment>
         <translation>attonewton</translation>
     </message>
     <message>
         <source>zeptonewton</source>
+        <translatorcomment>CLDR: zeptonewton</translatorcomment>
         <translation>zeptonewton</translation>
     </message>
     <message>
         <source>yoctonewton</source>
+        <translatorcomment>CLDR: yoctonewton</translatorcomment>
         <translation>yoctonewton</translation>
     </message>
     <message>
@@ -2251,6 +2493,7 @@
     </message>
     <message>
         <source>pound force</source>
+        <translatorcomment>CLDR: livre-force</translatorcomment>
         <translation>livre-force</translation>
     </message>
     <message>
@@ -2275,6 +2518,7 @@
     </message>
     <message>
         <source>newton per meter</source>
+        <translatorcomment>CLDR: newton par mètre</translatorcomment>
         <translation>newton par mètre</translation>
     </message>
     <message>
@@ -2295,14 +2539,17 @@
     </message>
     <message>
         <source>decanewton per meter</source>
+        <translatorcomment>CLDR: décanewton par mètre</translatorcomment>
         <translation>décanewton par mètre</translation>
     </message>
     <message>
         <source>kilonewton per meter</source>
+        <translatorcomment>CLDR: kilonewton par mètre</translatorcomment>
         <translation>kilonewton par mètre</translation>
     </message>
     <message>
         <source>meganewton per meter</source>
+        <translatorcomment>CLDR: méganewton par mètre</translatorcomment>
         <translation>méganewton par mètre</translation>
     </message>
     <message>
@@ -2315,22 +2562,27 @@
     </message>
     <message>
         <source>hertz</source>
+        <translatorcomment>CLDR: hertz</translatorcomment>
         <translation>hertz</translation>
     </message>
     <message>
         <source>kilohertz</source>
+        <translatorcomment>CLDR: kilohertz</translatorcomment>
         <translation>kilohertz</translation>
     </message>
     <message>
         <source>megahertz</source>
+        <translatorcomment>CLDR: mégahertz</translatorcomment>
         <translation>mégahertz</translation>
     </message>
     <message>
         <source>gigahertz</source>
+        <translatorcomment>CLDR: gigahertz</translatorcomment>
         <translation>gigahertz</translation>
     </message>
     <message>
         <source>terahertz</source>
+        <translatorcomment>CLDR: térahertz</translatorcomment>
         <translation>térahertz</translation>
     </message>
     <message>
@@ -2339,6 +2591,7 @@
     </message>
     <message>
         <source>revolution per minute</source>
+        <translatorcomment>CLDR: tour par minute</translatorcomment>
         <translation>tour par minute</translation>
     </message>
     <message>
@@ -2391,6 +2644,7 @@
     </message>
     <message>
         <source>watt</source>
+        <translatorcomment>CLDR: watt</translatorcomment>
         <translation>watt</translation>
     </message>
     <message>
@@ -2411,18 +2665,22 @@
     </message>
     <message>
         <source>kilocalorie per hour</source>
+        <translatorcomment>CLDR: kilocalorie par heure</translatorcomment>
         <translation>kilocalorie par heure</translation>
     </message>
     <message>
         <source>kilowatt</source>
+        <translatorcomment>CLDR: kilowatt</translatorcomment>
         <translation>kilowatt</translation>
     </message>
     <message>
         <source>megawatt</source>
+        <translatorcomment>CLDR: mégawatt</translatorcomment>
         <translation>mégawatt</translation>
     </message>
     <message>
         <source>microwatt</source>
+        <translatorcomment>CLDR: microwatt</translatorcomment>
         <translation>microwatt</translation>
     </message>
     <message>
@@ -2443,6 +2701,7 @@
     </message>
     <message>
         <source>milliwatt</source>
+        <translatorcomment>CLDR: milliwatt</translatorcomment>
         <translation>milliwatt</translation>
     </message>
     <message>
@@ -2455,10 +2714,12 @@
     </message>
     <message>
         <source>calorie per second</source>
+        <translatorcomment>CLDR: calorie par seconde</translatorcomment>
         <translation>calorie par seconde</translation>
     </message>
     <message>
         <source>kilocalorie per second</source>
+        <translatorcomment>CLDR: kilocalorie par seconde</translatorcomment>
         <translation>kilocalorie par seconde</translation>
     </message>
     <message>
@@ -2483,10 +2744,12 @@
     </message>
     <message>
         <source>watt per cubic meter</source>
+        <translatorcomment>CLDR: watt par mètre cube</translatorcomment>
         <translation>watt par mètre cube</translation>
     </message>
     <message>
         <source>watt per cubic foot</source>
+        <translatorcomment>CLDR: watt par pied cube</translatorcomment>
         <translation>watt par pied cube</translation>
     </message>
     <message>
@@ -2495,22 +2758,27 @@
     </message>
     <message>
         <source>watt per kilogram</source>
+        <translatorcomment>CLDR: watt par kilogramme</translatorcomment>
         <translation>watt par kilogramme</translation>
     </message>
     <message>
         <source>watt per square meter</source>
+        <translatorcomment>CLDR: watt par mètre carré</translatorcomment>
         <translation>watt par mètre carré</translation>
     </message>
     <message>
         <source>kilowatt per square meter</source>
+        <translatorcomment>CLDR: kilowatt par mètre carré</translatorcomment>
         <translation>kilowatt par mètre carré</translation>
     </message>
     <message>
         <source>kilowatt per square foot</source>
+        <translatorcomment>CLDR: kilowatt par pied carré</translatorcomment>
         <translation>kilowatt par pied carré</translation>
     </message>
     <message>
         <source>watt per square foot</source>
+        <translatorcomment>CLDR: watt par pied carré</translatorcomment>
         <translation>watt par pied carré</translation>
     </message>
     <message>
@@ -2519,6 +2787,7 @@
     </message>
     <message>
         <source>bar</source>
+        <translatorcomment>CLDR: bar</translatorcomment>
         <translation>bar</translation>
     </message>
     <message>
@@ -2531,6 +2800,7 @@
     </message>
     <message>
         <source>inch of mercury</source>
+        <translatorcomment>CLDR: pouce de mercure</translatorcomment>
         <translation>pouce de mercure</translation>
     </message>
     <message>
@@ -2539,38 +2809,47 @@
     </message>
     <message>
         <source>kilobar</source>
+        <translatorcomment>CLDR: kilobar</translatorcomment>
         <translation>kilobar</translation>
     </message>
     <message>
         <source>kilogram per square centimeter</source>
+        <translatorcomment>CLDR: kilogramme par centimètre carré</translatorcomment>
         <translation>kilogramme par centimètre carré</translation>
     </message>
     <message>
         <source>kilopascal</source>
+        <translatorcomment>CLDR: kilopascal</translatorcomment>
         <translation>kilopascal</translation>
     </message>
     <message>
         <source>kilopound per square inch</source>
+        <translatorcomment>CLDR: kilolivre par pouce carré</translatorcomment>
         <translation>kilolivre par pouce carré</translation>
     </message>
     <message>
         <source>mega pascal</source>
+        <translatorcomment>CLDR: mégapascal</translatorcomment>
         <translation>mégapascal</translation>
     </message>
     <message>
         <source>millibar</source>
+        <translatorcomment>CLDR: millibar</translatorcomment>
         <translation>millibar</translation>
     </message>
     <message>
         <source>millimeter of mercury</source>
+        <translatorcomment>CLDR: millimètre de mercure</translatorcomment>
         <translation>millimètre de mercure</translation>
     </message>
     <message>
         <source>milli pascal</source>
+        <translatorcomment>CLDR: millipascal</translatorcomment>
         <translation>millipascal</translation>
     </message>
     <message>
         <source>pascal</source>
+        <translatorcomment>CLDR: pascal</translatorcomment>
         <translation>pascal</translation>
     </message>
     <message>
@@ -2583,10 +2862,12 @@
     </message>
     <message>
         <source>pound per square foot</source>
+        <translatorcomment>CLDR: livre par pied carré</translatorcomment>
         <translation>livre par pied carré</translation>
     </message>
     <message>
         <source>pound per square inch</source>
+        <translatorcomment>CLDR: livre par pouce carré</translatorcomment>
         <translation>livre par pouce carré</translation>
     </message>
     <message>
@@ -2603,30 +2884,37 @@
     </message>
     <message>
         <source>newton per square millimeter</source>
+        <translatorcomment>CLDR: newton par millimètre carré</translatorcomment>
         <translation>newton par millimètre carré</translation>
     </message>
     <message>
         <source>newton per square meter</source>
+        <translatorcomment>CLDR: newton par mètre carré</translatorcomment>
         <translation>newton par mètre carré</translation>
     </message>
     <message>
         <source>decanewton per square millimeter</source>
+        <translatorcomment>CLDR: décanewton par millimètre carré</translatorcomment>
         <translation>décanewton par millimètre carré</translation>
     </message>
     <message>
         <source>decanewton per square meter</source>
+        <translatorcomment>CLDR: décanewton par mètre carré</translatorcomment>
         <translation>décanewton par mètre carré</translation>
     </message>
     <message>
         <source>kilonewton per square meter</source>
+        <translatorcomment>CLDR: kilonewton par mètre carré</translatorcomment>
         <translation>kilonewton par mètre carré</translation>
     </message>
     <message>
         <source>meganewton per square meter</source>
+        <translatorcomment>CLDR: méganewton par mètre carré</translatorcomment>
         <translation>méganewton par mètre carré</translation>
     </message>
     <message>
         <source>kilopound per square foot</source>
+        <translatorcomment>CLDR: kilolivre par pied carré</translatorcomment>
         <translation>kilolivre par pied carré</translation>
     </message>
     <message>
@@ -2655,6 +2943,7 @@
     </message>
     <message>
         <source>pound force per square inch</source>
+        <translatorcomment>CLDR: livre-force par pouce carré</translatorcomment>
         <translation>livre-force par pouce carré</translation>
     </message>
     <message>
@@ -2675,6 +2964,7 @@
     </message>
     <message>
         <source>gigapascal</source>
+        <translatorcomment>CLDR: gigapascal</translatorcomment>
         <translation>gigapascal</translation>
     </message>
     <message>
@@ -2683,14 +2973,17 @@
     </message>
     <message>
         <source>newton per square micrometer</source>
+        <translatorcomment>CLDR: newton par micromètre carré</translatorcomment>
         <translation>newton par micromètre carré</translation>
     </message>
     <message>
         <source>meter per newton</source>
+        <translatorcomment>CLDR: mètre par newton</translatorcomment>
         <translation>mètre par newton</translation>
     </message>
     <message>
         <source>meter per kilonewton</source>
+        <translatorcomment>CLDR: mètre par kilonewton</translatorcomment>
         <translation>mètre par kilonewton</translation>
     </message>
     <message>
@@ -2699,10 +2992,12 @@
     </message>
     <message>
         <source>square meter per newton</source>
+        <translatorcomment>CLDR: mètre carré par newton</translatorcomment>
         <translation>mètre carré par newton</translation>
     </message>
     <message>
         <source>square meter per kilonewton</source>
+        <translatorcomment>CLDR: mètre carré par kilonewton</translatorcomment>
         <translation>mètre carré par kilonewton</translation>
     </message>
     <message>
@@ -2711,10 +3006,12 @@
     </message>
     <message>
         <source>cubic meter per newton</source>
+        <translatorcomment>CLDR: mètre cube par newton</translatorcomment>
         <translation>mètre cube par newton</translation>
     </message>
     <message>
         <source>cubic meter per kilonewton</source>
+        <translatorcomment>CLDR: mètre cube par kilonewton</translatorcomment>
         <translation>mètre cube par kilonewton</translation>
     </message>
     <message>
@@ -2723,18 +3020,22 @@
     </message>
     <message>
         <source>newton-meter per meter</source>
+        <translatorcomment>CLDR: newton-mètre par mètre</translatorcomment>
         <translation>newton-mètre par mètre</translation>
     </message>
     <message>
         <source>decanewton-meter per meter</source>
+        <translatorcomment>CLDR: décanewton-mètre par mètre</translatorcomment>
         <translation>décanewton-mètre par mètre</translation>
     </message>
     <message>
         <source>kilonewton-meter per meter</source>
+        <translatorcomment>CLDR: kilonewton-mètre par mètre</translatorcomment>
         <translation>kilonewton-mètre par mètre</translation>
     </message>
     <message>
         <source>meganewton-meter per meter</source>
+        <translatorcomment>CLDR: méganewton-mètre par mètre</translatorcomment>
         <translation>méganewton-mètre par mètre</translation>
     </message>
     <message>
@@ -2751,10 +3052,12 @@
     </message>
     <message>
         <source>pound-force foot per foot</source>
+        <translatorcomment>CLDR: livre-force-pied par pied</translatorcomment>
         <translation>livre-force-pied par pied</translation>
     </message>
     <message>
         <source>ohm</source>
+        <translatorcomment>CLDR: ohm</translatorcomment>
         <translation>ohm</translation>
     </message>
     <message>
@@ -2763,6 +3066,7 @@
     </message>
     <message>
         <source>gigaohm</source>
+        <translatorcomment>CLDR: gigaohm</translatorcomment>
         <translation>gigaohm</translation>
     </message>
     <message>
@@ -2771,10 +3075,12 @@
     </message>
     <message>
         <source>microohm</source>
-        <translation>micro-ohm</translation>
+        <translatorcomment>CLDR: microohm</translatorcomment>
+        <translation>microohm</translation>
     </message>
     <message>
         <source>milliohm</source>
+        <translatorcomment>CLDR: milliohm</translatorcomment>
         <translation>milliohm</translation>
     </message>
     <message>
@@ -2787,66 +3093,82 @@
     </message>
     <message>
         <source>meter per second</source>
+        <translatorcomment>CLDR: mètre par seconde</translatorcomment>
         <translation>mètre par seconde</translation>
     </message>
     <message>
         <source>millimeter per second</source>
+        <translatorcomment>CLDR: millimètre par seconde</translatorcomment>
         <translation>millimètre par seconde</translation>
     </message>
     <message>
         <source>centimeter per second</source>
+        <translatorcomment>CLDR: centimètre par seconde</translatorcomment>
         <translation>centimètre par seconde</translation>
     </message>
     <message>
         <source>meter per minute</source>
+        <translatorcomment>CLDR: mètre par minute</translatorcomment>
         <translation>mètre par minute</translation>
     </message>
     <message>
         <source>inch per second</source>
+        <translatorcomment>CLDR: pouce par seconde</translatorcomment>
         <translation>pouce par seconde</translation>
     </message>
     <message>
         <source>foot per second</source>
+        <translatorcomment>CLDR: pied par seconde</translatorcomment>
         <translation>pied par seconde</translation>
     </message>
     <message>
         <source>inch per minute</source>
+        <translatorcomment>CLDR: pouce par minute</translatorcomment>
         <translation>pouce par minute</translation>
     </message>
     <message>
         <source>foot per minute</source>
+        <translatorcomment>CLDR: pied par minute</translatorcomment>
         <translation>pied par minute</translation>
     </message>
     <message>
         <source>kilometer per hour</source>
+        <translatorcomment>CLDR: kilomètre par heure</translatorcomment>
         <translation>kilomètre par heure</translation>
     </message>
     <message>
         <source>mile per hour</source>
+        <translatorcomment>CLDR: mile par heure</translatorcomment>
         <translation>mile par heure</translation>
     </message>
     <message>
         <source>centimeter per minute</source>
+        <translatorcomment>CLDR: centimètre par minute</translatorcomment>
         <translation>centimètre par minute</translation>
     </message>
     <message>
         <source>foot per hour</source>
+        <translatorcomment>CLDR: pied par heure</translatorcomment>
         <translation>pied par heure</translation>
     </message>
     <message>
         <source>inch per hour</source>
+        <translatorcomment>CLDR: pouce par heure</translatorcomment>
         <translation>pouce par heure</translation>
     </message>
     <message>
         <source>kilometer per minute</source>
+        <translatorcomment>CLDR: kilomètre par minute</translatorcomment>
         <translation>kilomètre par minute</translation>
     </message>
     <message>
         <source>kilometer per second</source>
+        <translatorcomment>CLDR: kilomètre par seconde</translatorcomment>
         <translation>kilomètre par seconde</translation>
     </message>
     <message>
         <source>knot</source>
+        <translatorcomment>CLDR: nœud</translatorcomment>
         <translation>nœud</translation>
     </message>
     <message>
@@ -2855,14 +3177,17 @@
     </message>
     <message>
         <source>meter per hour</source>
+        <translatorcomment>CLDR: mètre par heure</translatorcomment>
         <translation>mètre par heure</translation>
     </message>
     <message>
         <source>mile per minute</source>
+        <translatorcomment>CLDR: mile par minute</translatorcomment>
         <translation>mile par minute</translation>
     </message>
     <message>
         <source>mile per second</source>
+        <translatorcomment>CLDR: mile par seconde</translatorcomment>
         <translation>mile par seconde</translation>
     </message>
     <message>
@@ -2875,98 +3200,122 @@
     </message>
     <message>
         <source>byte</source>
+        <translatorcomment>CLDR: octet</translatorcomment>
         <translation>octet</translation>
     </message>
     <message>
         <source>bit</source>
+        <translatorcomment>CLDR: bit</translatorcomment>
         <translation>bit</translation>
     </message>
     <message>
         <source>kilobyte</source>
+        <translatorcomment>CLDR: kilooctet</translatorcomment>
         <translation>kilooctet</translation>
     </message>
     <message>
         <source>megabyte</source>
+        <translatorcomment>CLDR: mégaoctet</translatorcomment>
         <translation>mégaoctet</translation>
     </message>
     <message>
         <source>gigabyte</source>
+        <translatorcomment>CLDR: gigaoctet</translatorcomment>
         <translation>gigaoctet</translation>
     </message>
     <message>
         <source>terabyte</source>
+        <translatorcomment>CLDR: téraoctet</translatorcomment>
         <translation>téraoctet</translation>
     </message>
     <message>
         <source>kibibyte</source>
+        <translatorcomment>CLDR: kibioctet</translatorcomment>
         <translation>kibioctet</translation>
     </message>
     <message>
         <source>mebibyte</source>
+        <translatorcomment>CLDR: mébioctet</translatorcomment>
         <translation>mébioctet</translation>
     </message>
     <message>
         <source>gibibyte</source>
+        <translatorcomment>CLDR: gibioctet</translatorcomment>
         <translation>gibioctet</translation>
     </message>
     <message>
         <source>tebibyte</source>
+        <translatorcomment>CLDR: tébioctet</translatorcomment>
         <translation>tébioctet</translation>
     </message>
     <message>
         <source>kilobit</source>
+        <translatorcomment>CLDR: kilobit</translatorcomment>
         <translation>kilobit</translation>
     </message>
     <message>
         <source>megabit</source>
+        <translatorcomment>CLDR: mégabit</translatorcomment>
         <translation>mégabit</translation>
     </message>
     <message>
         <source>gigabit</source>
+        <translatorcomment>CLDR: gigabit</translatorcomment>
         <translation>gigabit</translation>
     </message>
     <message>
         <source>petabyte</source>
+        <translatorcomment>CLDR: pétaoctet</translatorcomment>
         <translation>pétaoctet</translation>
     </message>
     <message>
         <source>pebibyte</source>
+        <translatorcomment>CLDR: pébioctet</translatorcomment>
         <translation>pébioctet</translation>
     </message>
     <message>
         <source>exabyte</source>
+        <translatorcomment>CLDR: exaoctet</translatorcomment>
         <translation>exaoctet</translation>
     </message>
     <message>
         <source>exbibyte</source>
+        <translatorcomment>CLDR: exbioctet</translatorcomment>
         <translation>exbioctet</translation>
     </message>
     <message>
         <source>zettabyte</source>
+        <translatorcomment>CLDR: zettaoctet</translatorcomment>
         <translation>zettaoctet</translation>
     </message>
     <message>
         <source>zebibyte</source>
+        <translatorcomment>CLDR: zébioctet</translatorcomment>
         <translation>zébioctet</translation>
     </message>
     <message>
         <source>yottabyte</source>
+        <translatorcomment>CLDR: yottaoctet</translatorcomment>
         <translation>yottaoctet</translation>
     </message>
     <message>
         <source>yobibyte</source>
+        <translatorcomment>CLDR: yobioctet</translatorcomment>
         <translation>yobioctet</translation>
     </message>
     <message>
         <source>kelvin</source>
+        <translatorcomment>CLDR: kelvin</translatorcomment>
         <translation>kelvin</translation>
     </message>
     <message>
         <source>degree Celsius</source>
+        <translatorcomment>CLDR: degré Celsius</translatorcomment>
         <translation>degré Celsius</translation>
     </message>
     <message>
         <source>degree Fahrenheit</source>
+        <translatorcomment>CLDR: degré Fahrenheit</translatorcomment>
         <translation>degré Fahrenheit</translation>
     </message>
     <message>
@@ -2975,110 +3324,137 @@
     </message>
     <message>
         <source>celsius per minute</source>
+        <translatorcomment>CLDR: degré Celsius par minute</translatorcomment>
         <translation>degré Celsius par minute</translation>
     </message>
     <message>
         <source>fahrenheit per minute</source>
+        <translatorcomment>CLDR: degré Fahrenheit par minute</translatorcomment>
         <translation>degré Fahrenheit par minute</translation>
     </message>
     <message>
         <source>second</source>
+        <translatorcomment>CLDR: seconde</translatorcomment>
         <translation>seconde</translation>
     </message>
     <message>
         <source>yottasecond</source>
+        <translatorcomment>CLDR: yottaseconde</translatorcomment>
         <translation>yottaseconde</translation>
     </message>
     <message>
         <source>zettasecond</source>
+        <translatorcomment>CLDR: zettaseconde</translatorcomment>
         <translation>zettaseconde</translation>
     </message>
     <message>
         <source>exasecond</source>
+        <translatorcomment>CLDR: exaseconde</translatorcomment>
         <translation>exaseconde</translation>
     </message>
     <message>
         <source>petasecond</source>
+        <translatorcomment>CLDR: pétaseconde</translatorcomment>
         <translation>pétaseconde</translation>
     </message>
     <message>
         <source>terasecond</source>
+        <translatorcomment>CLDR: téraseconde</translatorcomment>
         <translation>téraseconde</translation>
     </message>
     <message>
         <source>gigasecond</source>
+        <translatorcomment>CLDR: gigaseconde</translatorcomment>
         <translation>gigaseconde</translation>
     </message>
     <message>
         <source>megasecond</source>
+        <translatorcomment>CLDR: mégaseconde</translatorcomment>
         <translation>mégaseconde</translation>
     </message>
     <message>
         <source>kilosecond</source>
+        <translatorcomment>CLDR: kiloseconde</translatorcomment>
         <translation>kiloseconde</translation>
     </message>
     <message>
         <source>hectosecond</source>
+        <translatorcomment>CLDR: hectoseconde</translatorcomment>
         <translation>hectoseconde</translation>
     </message>
     <message>
         <source>decasecond</source>
+        <translatorcomment>CLDR: décaseconde</translatorcomment>
         <translation>décaseconde</translation>
     </message>
     <message>
         <source>decisecond</source>
+        <translatorcomment>CLDR: déciseconde</translatorcomment>
         <translation>déciseconde</translation>
     </message>
     <message>
         <source>centisecond</source>
+        <translatorcomment>CLDR: centiseconde</translatorcomment>
         <translation>centiseconde</translation>
     </message>
     <message>
         <source>millisecond</source>
+        <translatorcomment>CLDR: milliseconde</translatorcomment>
         <translation>milliseconde</translation>
     </message>
     <message>
         <source>microsecond</source>
+        <translatorcomment>CLDR: microseconde</translatorcomment>
         <translation>microseconde</translation>
     </message>
     <message>
         <source>nanosecond</source>
+        <translatorcomment>CLDR: nanoseconde</translatorcomment>
         <translation>nanoseconde</translation>
     </message>
     <message>
         <source>picosecond</source>
+        <translatorcomment>CLDR: picoseconde</translatorcomment>
         <translation>picoseconde</translation>
     </message>
     <message>
         <source>femtosecond</source>
+        <translatorcomment>CLDR: femtoseconde</translatorcomment>
         <translation>femtoseconde</translation>
     </message>
     <message>
         <source>attosecond</source>
+        <translatorcomment>CLDR: attoseconde</translatorcomment>
         <translation>attoseconde</translation>
     </message>
     <message>
         <source>zeptosecond</source>
+        <translatorcomment>CLDR: zeptoseconde</translatorcomment>
         <translation>zeptoseconde</translation>
     </message>
     <message>
         <source>yoctosecond</source>
+        <translatorcomment>CLDR: yoctoseconde</translatorcomment>
         <translation>yoctoseconde</translation>
     </message>
     <message>
         <source>minute</source>
+        <translatorcomment>CLDR: minute</translatorcomment>
         <translation>minute</translation>
     </message>
     <message>
         <source>hour</source>
+        <translatorcomment>CLDR: heure</translatorcomment>
         <translation>heure</translation>
     </message>
     <message>
         <source>day</source>
+        <translatorcomment>CLDR: jour</translatorcomment>
         <translation>jour</translation>
     </message>
     <message>
         <source>week</source>
+        <translatorcomment>CLDR: semaine</translatorcomment>
         <translation>semaine</translation>
     </message>
     <message>
@@ -3087,6 +3463,7 @@
     </message>
     <message>
         <source>month</source>
+        <translatorcomment>CLDR: mois</translatorcomment>
         <translation>mois</translation>
     </message>
     <message>
@@ -3123,10 +3500,12 @@
     </message>
     <message>
         <source>decade</source>
+        <translatorcomment>CLDR: décennie</translatorcomment>
         <translation>décennie</translation>
     </message>
     <message>
         <source>century</source>
+        <translatorcomment>CLDR: siècle</translatorcomment>
         <translation>siècle</translation>
     </message>
     <message>
@@ -3239,6 +3618,7 @@
     </message>
     <message>
         <source>meter per second squared</source>
+        <translatorcomment>CLDR: mètre par seconde carrée</translatorcomment>
         <translation>mètre par seconde carrée</translation>
     </message>
     <message>
@@ -3251,18 +3631,22 @@
     </message>
     <message>
         <source>volt</source>
+        <translatorcomment>CLDR: volt</translatorcomment>
         <translation>volt</translation>
     </message>
     <message>
         <source>kilovolt</source>
+        <translatorcomment>CLDR: kilovolt</translatorcomment>
         <translation>kilovolt</translation>
     </message>
     <message>
         <source>microvolt</source>
+        <translatorcomment>CLDR: microvolt</translatorcomment>
         <translation>microvolt</translation>
     </message>
     <message>
         <source>millivolt</source>
+        <translatorcomment>CLDR: millivolt</translatorcomment>
         <translation>millivolt</translation>
     </message>
     <message>
@@ -3279,6 +3663,7 @@
     </message>
     <message>
         <source>candela</source>
+        <translatorcomment>CLDR: candela</translatorcomment>
         <translation>candela</translation>
     </message>
     <message>
@@ -3311,10 +3696,12 @@
     </message>
     <message>
         <source>lumen</source>
+        <translatorcomment>CLDR: lumen</translatorcomment>
         <translation>lumen</translation>
     </message>
     <message>
         <source>candela per square meter</source>
+        <translatorcomment>CLDR: candela par mètre carré</translatorcomment>
         <translation>candela par mètre carré</translation>
     </message>
     <message>
@@ -3323,6 +3710,7 @@
     </message>
     <message>
         <source>candela per square foot</source>
+        <translatorcomment>CLDR: candela par pied carré</translatorcomment>
         <translation>candela par pied carré</translation>
     </message>
     <message>
@@ -3331,10 +3719,12 @@
     </message>
     <message>
         <source>lumen per watt</source>
+        <translatorcomment>CLDR: lumen par watt</translatorcomment>
         <translation>lumen par watt</translation>
     </message>
     <message>
         <source>pascal per meter</source>
+        <translatorcomment>CLDR: pascal par mètre</translatorcomment>
         <translation>pascal par mètre</translation>
     </message>
     <message>
@@ -3355,6 +3745,7 @@
     </message>
     <message>
         <source>newton meter per degree</source>
+        <translatorcomment>CLDR: newton-mètre par degré</translatorcomment>
         <translation>newton-mètre par degré</translation>
     </message>
     <message>
@@ -3363,6 +3754,7 @@
     </message>
     <message>
         <source>kilonewton meter per degree</source>
+        <translatorcomment>CLDR: kilonewton-mètre par degré</translatorcomment>
         <translation>kilonewton-mètre par degré</translation>
     </message>
     <message>
@@ -3423,6 +3815,7 @@
     </message>
     <message>
         <source>square meter per watt</source>
+        <translatorcomment>CLDR: mètre carré par watt</translatorcomment>
         <translation>mètre carré par watt</translation>
     </message>
     <message>
@@ -3431,6 +3824,7 @@
     </message>
     <message>
         <source>square meter per kilowatt</source>
+        <translatorcomment>CLDR: mètre carré par kilowatt</translatorcomment>
         <translation>mètre carré par kilowatt</translation>
     </message>
     <message>
@@ -3471,6 +3865,7 @@
     </message>
     <message>
         <source>Ampere per meter</source>
+        <translatorcomment>CLDR: ampère par mètre</translatorcomment>
         <translation>ampère par mètre</translation>
     </message>
     <message>
@@ -3543,10 +3938,12 @@
     </message>
     <message>
         <source>joule per gram</source>
+        <translatorcomment>CLDR: joule par gramme</translatorcomment>
         <translation>joule par gramme</translation>
     </message>
     <message>
         <source>joule per kilogram</source>
+        <translatorcomment>CLDR: joule par kilogramme</translatorcomment>
         <translation>joule par kilogramme</translation>
     </message>
     <message>
