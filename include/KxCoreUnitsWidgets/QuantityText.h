@@ -32,12 +32,6 @@ KXCOREUNITSWIDGETS_EXPORT bool ParseQuantity(UnitsFormatter const& formatter, QS
 // the base units. Empty when the unit has no converter.
 KXCOREUNITSWIDGETS_EXPORT QString SiQuantityText(UnitsFormatter const& formatter, double value, int unit);
 
-// Sets the formatter's decimal and group separators to those Qt knows for `locale`
-// ("de-DE": "," and "."). A new formatter writes "." and "," in every locale; hosts
-// whose users type their own locale's numbers want this. False, changing nothing,
-// when Qt's separators are equal or the formatter refuses one.
-KXCOREUNITSWIDGETS_EXPORT bool UseLocaleSeparators(UnitsFormatter& formatter, QString const& locale);
-
 // Why `text` does not read as a quantity of `unit`'s group: "cannot read "5 fx" as
 // Length", with the group's display name of the formatter's locale.
 KXCOREUNITSWIDGETS_EXPORT QString ParseFailureText(UnitsFormatter const& formatter, QString const& text, int unit);

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "KxCoreUnits/UnitsConfig.h"
+#include "KxCoreUnitsUI/LocaleConventions.h"
 #include "KxCoreUnitsUI/UnitsFormatter.h"
 #include "KxCoreUnitsUI/UnitsManager.h"
 #include "KxCoreUnitsWidgets/QuantityText.h"
@@ -88,7 +89,7 @@ void QuantitySpinBox::setLocaleName(QString const& locale) {
     QString const name = locale.trimmed().isEmpty() ? CurrentManagerLocale() : locale.trimmed();
     bool const changed = m_formatter == nullptr || name != m_localeName;
     auto formatter = std::make_unique<UnitsFormatter>(name.toStdWString().c_str());
-    UseLocaleSeparators(*formatter, name);
+    ApplyLocaleConventions(*formatter);  // the locale's separators and signs
     m_validator->setFormatter(formatter.get());
     m_formatter = std::move(formatter);
     m_localeName = name;

@@ -130,15 +130,4 @@ QString SiQuantityText(UnitsFormatter const& formatter, double value, int unit) 
     return symbols.isEmpty() ? number : number + QLatin1Char(' ') + symbols;
 }
 
-bool UseLocaleSeparators(UnitsFormatter& formatter, QString const& locale) {
-    QLocale const qtLocale(LocaleUtil::LocaleNameToQtLocaleName(locale));
-    QString const decimal = qtLocale.decimalPoint();
-    QString const group = qtLocale.groupSeparator();
-    if (decimal.isEmpty() || group.isEmpty() || decimal == group) return false;
-    // Each setter drops its old text only while that text is still its own, so the
-    // two may be swapped in either order.
-    if (formatter.SetNumberGroupSeparator(Wide(group).c_str()) != 0) return false;
-    return formatter.SetNumberDecimalSeparator(Wide(decimal).c_str()) == 0;
-}
-
 }  // namespace kxnorth::platform::core::units

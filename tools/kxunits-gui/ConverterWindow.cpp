@@ -15,6 +15,7 @@
 #include "../kxunits/Quantities.h"
 #include "../kxunits/Session.h"
 #include "../kxunits/UnitNames.h"
+#include "KxCoreUnitsUI/LocaleConventions.h"
 #include "KxCoreUnitsUI/LocaleUtil.h"
 #include "KxCoreUnitsUI/StringUtil.h"
 #include "KxCoreUnitsWidgets/QuantitySpinBox.h"
@@ -177,7 +178,7 @@ void ConverterWindow::onLocaleChosen() {
     QString const locale = m_locales->currentData().toString();
     if (locale.isEmpty() || !m_session.UseLocale(locale).isEmpty()) return;
     m_formatter = m_session.MakeFormatter();
-    units::UseLocaleSeparators(*m_formatter, locale);
+    units::ApplyLocaleConventions(*m_formatter);
     applyPrecision(*m_formatter);
     m_field->setLocaleName(locale);
     applyPrecision(m_field->formatter());
