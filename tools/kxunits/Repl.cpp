@@ -9,6 +9,7 @@
 
 #include "Commands.h"
 #include "KxCoreUnits/UnitsUtilities.h"
+#include "KxCoreUnitsUI/ParseDiagnostics.h"
 #include "Quantities.h"
 #include "Session.h"
 #include "Text.h"
@@ -152,8 +153,14 @@ private:
     bool Answer(QString const& text) {
         double value = 0;
         std::wstring const wide = ToWide(text);
-        if (m_formatter->Parse(wide.c_str(), value, m_unit) != 0) {
-            return Report(QStringLiteral("cannot read %1 as %2").arg(Quoted(text), GroupWord(m_unit)));
+        units::ParseDiagnostics why;
+        if (units::DiagnoseParse(*m_formatter, wide.c_str(), value, m_unit, why) != 0) {
+            // One answer per line: where reading stopped is quoted rather than pointed at.
+            QString const reason = QLatin1String(units::ParseFailureReasonText(why.reason));
+            QString const rest = why.offset >= 0 && static_cast<std::size_t>(why.offset) < wide.size()
+                                     ? QStringLiteral(" at %1").arg(Quoted(QString::fromStdWString(wide.substr(why.offset))))
+                                     : QString();
+            return Report(QStringLiteral("cannot read %1 as %2: %3%4").arg(Quoted(text), GroupWord(m_unit), reason, rest));
         }
         QStringList answers;
         for (Style const& style : m_styles) {
