@@ -207,34 +207,6 @@ TEST(FormatterThreads, CreateUseDestroyWhileTheManagerChanges) {
     EXPECT_EQ(CountMismatches(all), 0);
 }
 
-// Threads racing for the first manager call all get the one instance, set up once.
-TEST(FormatterThreads, FirstManagerCallsRaceToOneInstance) {
-    units::UnitsManager::Initialize();
-    constexpr int kThreads = 8;
-    StartGate gate(kThreads);
-    std::vector<units::UnitsManager*> seen(kThreads, nullptr);
-    std::vector<std::wstring> locales(kThreads);
-    std::vector<std::thread> threads;
-    for (int t = 0; t < kThreads; ++t) {
-        threads.emplace_back([&, t] {
-            gate.ArriveAndWait();
-            units::UnitsManager* manager = units::UnitsManager::GetInstance();
-            seen[static_cast<std::size_t>(t)] = manager;
-            wchar_t name[32] = L"";
-            manager->GetCurrentLocale(name, 32);
-            locales[static_cast<std::size_t>(t)] = name;
-        });
-    }
-    for (std::thread& thread : threads) thread.join();
-    for (int t = 0; t < kThreads; ++t) {
-        SCOPED_TRACE(t);
-        EXPECT_NE(seen[static_cast<std::size_t>(t)], nullptr);
-        EXPECT_EQ(seen[static_cast<std::size_t>(t)], seen[0]);
-        EXPECT_FALSE(locales[static_cast<std::size_t>(t)].empty());
-        EXPECT_EQ(locales[static_cast<std::size_t>(t)], locales[0]);
-    }
-}
-
 // A formatter keeps what it was made with: the manager's later locale changes apply
 // only to formatters created afterwards; texts of a locale loaded later, on another
 // thread, become readable by every formatter, as when one thread loads them.
